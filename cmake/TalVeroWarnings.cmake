@@ -1,0 +1,26 @@
+# Every target of our own links `talvero_warnings`: the warnings that we hold ourselves to, and the
+# sanitizers when they are asked for. Nothing of Qt is built with them.
+option(TALVERO_WERROR "Treat warnings as errors" OFF)
+option(TALVERO_SANITIZE "Build with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
+
+add_library(talvero_warnings INTERFACE)
+if(MSVC)
+  target_compile_options(talvero_warnings INTERFACE /W4 /permissive- /utf-8 $<$<BOOL:${TALVERO_WERROR}>:/WX>)
+else()
+  target_compile_options(talvero_warnings INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion $<$<BOOL:${TALVERO_WERROR}>:-Werror>)
+endif()
+
+if(TALVERO_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+
+# talvero_library(NAME sources... LINK libraries...): a static library whose headers are included by
+# their bare names.
+function(talvero_library name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "LINK")
+  add_library(${name} STATIC ${arg_UNPARSED_ARGUMENTS})
+  target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
+  target_link_libraries(${name} PUBLIC ${arg_LINK} PRIVATE talvero_warnings)
+endfunction()

@@ -1,0 +1,29 @@
+# Shared by the scripts of this folder; read with `source`, not run.
+
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+
+# install_missing PACKAGE...: installs those that this Debian or Ubuntu machine lacks.
+install_missing() {
+    local missing=() package
+    for package in "$@"; do
+        dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q 'install ok installed' ||
+            missing+=("$package")
+    done
+    [ "${#missing[@]}" -gt 0 ] || return 0
+    echo "Installing: ${missing[*]}"
+    local asRoot=()
+    [ "$(id -u)" -eq 0 ] || asRoot=(sudo)
+    "${asRoot[@]}" apt-get update -qq
+    DEBIAN_FRONTEND=noninteractive "${asRoot[@]}" apt-get install -y -qq --no-install-recommends \
+        "${missing[@]}" >/dev/null
+}
+
+# What building and running need. The fonts stand in for those that a bare machine lacks.
+build_packages=(g++ cmake ninja-build qtbase5-dev libqt5serialport5-dev fonts-dejavu-core)
+
+# configure PRESET [cmake options...]
+configure() {
+    local preset=$1
+    shift
+    (cd "$root" && cmake --preset "$preset" -DTALVERO_WERROR="${TALVERO_WERROR:-OFF}" "$@" >/dev/null)
+}
