@@ -1,0 +1,190 @@
+// SPDX-FileCopyrightText: 2026 The TAL-VERO Connect developers
+// SPDX-License-Identifier: MIT
+
+#include "serialportlayer.h"
+
+#include "debuglog.h"
+#include "protocol.h"
+
+#include <QSignalBlocker>
+
+#include <chrono>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto answerTime = 2000ms;
+constexpr auto silenceTime = 10000ms;
+constexpr int commandLength = 8;
+
+/// Whether an open port that raises this error is lost. A pulled cable shows itself as one or
+/// another of them, depending on the system and the driver.
+bool meansPortIsGone(QSerialPort::SerialPortError error)
+{
+    switch (error) {
+    case QSerialPort::NoError:
+    case QSerialPort::NotOpenError:
+    case QSerialPort::TimeoutError:
+    case QSerialPort::UnsupportedOperationError:
+        return false;
+    case QSerialPort::DeviceNotFoundError:
+    case QSerialPort::PermissionError:
+    case QSerialPort::OpenError:
+    case QSerialPort::ParityError:
+    case QSerialPort::FramingError:
+    case QSerialPort::BreakConditionError:
+    case QSerialPort::WriteError:
+    case QSerialPort::ReadError:
+    case QSerialPort::ResourceError:
+    case QSerialPort::UnknownError:
+        return true;
+    }
+    return true;
+}
+
+} // namespace
+
+SerialPortLayer::SerialPortLayer(QObject *parent)
+    : QObject(parent)
+    , timeoutTimer(this)
+    , checkTimer(this)
+{
+    timeoutTimer.setObjectName(QStringLiteral("timeoutTimer"));
+    timeoutTimer.setInterval(answerTime);
+    timeoutTimer.setSingleShot(true);
+    checkTimer.setObjectName(QStringLiteral("checkTimer"));
+    checkTimer.setInterval(silenceTime);
+
+    connect(&timeoutTimer, SIGNAL(timeout()), this, SLOT(timeout()));
+    connect(&checkTimer, SIGNAL(timeout()), this, SLOT(checkConnection()));
+    connect(&port, SIGNAL(readyRead()), this, SLOT(readData()));
+}
+
+SerialPortLayer::~SerialPortLayer()
+{
+    port.disconnect(this);
+    if (port.isOpen()) {
+        port.close();
+    }
+}
+
+bool SerialPortLayer::openPort()
+{
+    if (!openDevice()) {
+        emit connectionFailed();
+        return false;
+    }
+    portFault = PortFault::None;
+    sendCommand(QString::fromLatin1(Protocol::Command::wakeUp));
+    timeoutTimer.start();
+    return true;
+}
+
+/// An attempt to open tells by its result how it went; only an open port is watched for errors.
+bool SerialPortLayer::openDevice()
+{
+    const QSignalBlocker attemptIsSilent(port);
+    port.setPortName(portName);
+    port.setBaudRate(baudRate.toInt());
+    port.setDataBits(QSerialPort::Data8);
+    port.setParity(QSerialPort::NoParity);
+    port.setStopBits(QSerialPort::OneStop);
+    port.setFlowControl(QSerialPort::NoFlowControl);
+    if (!port.open(QIODevice::ReadWrite)) {
+        return false;
+    }
+    connect(&port, &QSerialPort::errorOccurred, this, &SerialPortLayer::handlePortError,
+            Qt::UniqueConnection);
+    return true;
+}
+
+void SerialPortLayer::closePort()
+{
+    connected = false;
+    portFault = PortFault::None;
+    if (port.isOpen()) {
+        port.close();
+    }
+    timeoutTimer.stop();
+    checkTimer.stop();
+    rxBuffer.clear();
+}
+
+bool SerialPortLayer::isConnected() const { return connected; }
+
+void SerialPortLayer::setConnected() { connected = true; }
+
+void SerialPortLayer::sendCommand(QString command)
+{
+    if (!port.isOpen()) {
+        return;
+    }
+    for (int digit = 0; command.size() < commandLength; ++digit) {
+        command += QString::number(digit);
+    }
+    DEBUG_LOG << "Sending " << command;
+    port.write(command.toLocal8Bit());
+    timeoutTimer.start();
+    checkTimer.start();
+}
+
+void SerialPortLayer::timeout()
+{
+    DEBUG_LOG << "Timed out am in serialportlayer";
+    emit gotTimeout();
+    if (checkPending) {
+        emit lostDevice();
+    }
+    rxBuffer.clear();
+    if (portFault == PortFault::Dropped) {
+        timeoutTimer.start(); // a report may have been spent on an unanswered command
+    }
+}
+
+void SerialPortLayer::readData()
+{
+    checkPending = false;
+    timeoutTimer.stop();
+    rxBuffer.append(port.readAll());
+    for (const ReceiveBuffer::LineEnd lineEnd : ReceiveBuffer::lineEnds) {
+        if (const auto line = rxBuffer.takeLine(lineEnd)) {
+            receivedLines.append(*line);
+            emit gotData();
+        }
+    }
+    if (port.isOpen()) { // the reader of a line may have closed it
+        checkTimer.start();
+    }
+}
+
+void SerialPortLayer::checkConnection()
+{
+    sendCommand(QString::fromLatin1(Protocol::Command::keepAlive));
+    checkPending = true;
+}
+
+/// A port whose far end has vanished stays open and may raise its error at every turn of the event
+/// loop. It is silenced here, and closed from the event loop: it is still at work while its signal
+/// is handled.
+void SerialPortLayer::handlePortError(QSerialPort::SerialPortError error)
+{
+    if (!meansPortIsGone(error)) {
+        return;
+    }
+    disconnect(&port, &QSerialPort::errorOccurred, this, &SerialPortLayer::handlePortError);
+    DEBUG_LOG << "The serial port failed:" << error << port.errorString();
+    portFault = PortFault::Noticed;
+    QMetaObject::invokeMethod(this, &SerialPortLayer::dropFailedPort, Qt::QueuedConnection);
+}
+
+void SerialPortLayer::dropFailedPort()
+{
+    if (portFault != PortFault::Noticed) {
+        return; // the link was closed in the meantime, and perhaps opened again
+    }
+    portFault = PortFault::Dropped;
+    port.close();
+    checkTimer.stop();
+    timeout();
+}
