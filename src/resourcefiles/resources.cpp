@@ -1,0 +1,12 @@
+// SPDX-FileCopyrightText: 2026 The TAL-VERO Connect developers
+// SPDX-License-Identifier: MIT
+
+#include "resources.h"
+
+#include <QDir>
+
+void useTalVeroResources()
+{
+    Q_INIT_RESOURCE(resources);
+    Q_INIT_RESOURCE(resources_2x);
+}
