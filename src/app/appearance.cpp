@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 The TAL-VERO Connect developers
+// SPDX-License-Identifier: MIT
+
+#include "appearance.h"
+
+#include "myproxystyle.h"
+
+#include <QApplication>
+
+void prepareForHighDensity()
+{
+    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+#ifdef Q_OS_WIN
+    // There the operator chooses 125 % or 150 %. Elsewhere the factor comes from the screen's
+    // measured density, and a factor such as 1.04 would only blur the images.
+    QApplication::setHighDpiScaleFactorRoundingPolicy(
+        Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+#else
+    QApplication::setHighDpiScaleFactorRoundingPolicy(
+        Qt::HighDpiScaleFactorRoundingPolicy::RoundPreferFloor);
+#endif
+}
+
+void giveProgramStyle() { QApplication::setStyle(new MyProxyStyle(QStringLiteral("fusion"))); }

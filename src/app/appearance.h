@@ -1,0 +1,15 @@
+// SPDX-FileCopyrightText: 2026 The TAL-VERO Connect developers
+// SPDX-License-Identifier: MIT
+
+#ifndef APPEARANCE_H
+#define APPEARANCE_H
+
+/// Sharp text and images on high-density screens. To be called before the application object is
+/// made: Qt ignores these attributes afterwards.
+void prepareForHighDensity();
+
+/// Installs the program's style. To be called once, after the application object is made and before
+/// the first window.
+void giveProgramStyle();
+
+#endif // APPEARANCE_H

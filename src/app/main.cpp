@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 The TAL-VERO Connect developers
+// SPDX-License-Identifier: MIT
+
+#include "appearance.h"
+#include "mainwindow.h"
+
+#include <QApplication>
+
+int main(int argc, char **argv)
+{
+    prepareForHighDensity();
+    QApplication application(argc, argv);
+    giveProgramStyle();
+    MainWindow window;
+    window.show();
+    return QApplication::exec();
+}
