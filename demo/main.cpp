@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: 2026 The TAL-VERO Connect developers
+// SPDX-License-Identifier: MIT
+
+#include "appearance.h"
+#include "mainwindow.h"
+#include "operatortour.h"
+#include "ptysounder.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QTextStream>
+
+namespace {
+
+/// Between the device's rate and its factory setting, so that the search has something to pass.
+SounderOptions demoSounder()
+{
+    SounderOptions options;
+    options.rate = 9600;
+    return options;
+}
+
+int openWindow(const PtySounder &sounder, MainWindow &window)
+{
+    QTextStream(stdout) << "A simulated sounder waits at " << sounder.portPath()
+                        << ": choose that port and \"Auto\", then press Connect.\n";
+    window.show();
+    return QApplication::exec();
+}
+
+int playTour(PtySounder &sounder, MainWindow &window, const QString &folder)
+{
+    const QDir pictures(folder);
+    if (!pictures.mkpath(QStringLiteral("."))) {
+        QTextStream(stderr) << "Could not make the folder " << folder << '\n';
+        return 1;
+    }
+    OperatorTour tour(window, sounder, pictures);
+    QObject::connect(&tour, &OperatorTour::finished, qApp, &QCoreApplication::exit);
+    window.show();
+    tour.start();
+    const int exitCode = QApplication::exec();
+    QTextStream(stdout) << "The pictures are in " << pictures.absolutePath() << '\n';
+    return exitCode;
+}
+
+/// The log is for whoever looks for a fault; beside the tour's own lines it would only hide them.
+void keepLogOff() { qputenv("QT_LOGGING_RULES", "default.debug=false"); }
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    prepareForHighDensity();
+    keepLogOff();
+    QApplication application(argc, argv);
+    giveProgramStyle();
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription("TAL-VERO Connect beside a simulated sounder.");
+    parser.addHelpOption();
+    const QCommandLineOption tour("tour", "Plays an operator's tour; its pictures go to <folder>.",
+                                  "folder");
+    parser.addOption(tour);
+    parser.process(application);
+
+    PtySounder sounder(demoSounder());
+    if (!sounder.isOpen()) {
+        QTextStream(stderr) << "The system gave no pseudo-terminal for the simulated sounder.\n";
+        return 1;
+    }
+    MainWindow window([&sounder] { return systemSerialPorts() << sounder.portPath(); });
+    return parser.isSet(tour) ? playTour(sounder, window, parser.value(tour))
+                              : openWindow(sounder, window);
+}

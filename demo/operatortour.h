@@ -1,0 +1,80 @@
+// SPDX-FileCopyrightText: 2026 The TAL-VERO Connect developers
+// SPDX-License-Identifier: MIT
+
+#ifndef OPERATORTOUR_H
+#define OPERATORTOUR_H
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QObject>
+#include <QTimer>
+#include <QVector>
+
+#include <functional>
+
+class MainWindow;
+class SounderLine;
+
+/// Plays an operator's tour through the real window with real clicks and keys: each step acts,
+/// waits for what the operator would wait for, prints one line with what the info line says, and
+/// leaves a picture. Nothing blocks; the tour lives in the event loop.
+class OperatorTour : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The pictures go to `folder`, which must exist.
+    OperatorTour(MainWindow &mainWindow, SounderLine &line, const QDir &folder,
+                 QObject *parent = nullptr);
+
+    void start();
+
+signals:
+    /// The tour is over: 0 if every step came to its end, 1 if one waited in vain.
+    void finished(int exitCode);
+
+private:
+    struct Step
+    {
+        QString name; ///< what the operator does; also names the picture
+        std::function<void()> act;
+        std::function<bool()> isDone;
+        std::function<QWidget *()> shown; ///< the window that the picture is of
+    };
+
+    void planConnecting();
+    void planChanging();
+    void planLooking();
+    void planLeaving();
+    void add(const QString &name, std::function<void()> act, std::function<bool()> isDone);
+    void add(const QString &name, std::function<void()> act, std::function<bool()> isDone,
+             std::function<QWidget *()> shown);
+
+    void begin();
+    void watch();
+    void end(bool came);
+    void report(bool came);
+    void takePicture() const;
+
+    template <typename Widget>
+    Widget *find(const QString &name) const;
+    void click(const QString &name) const;
+    void clickTab(int index) const;
+    void choose(const QString &list, const QString &entry) const;
+    void type(const QString &edit, const QString &text) const;
+    QString info() const;
+    bool infoHolds(const char *words) const;
+    bool isConnected() const;
+    QWidget *popup(const char *title) const;
+
+    MainWindow &window;
+    SounderLine &sounder;
+    QDir pictures;
+    QVector<Step> steps;
+    int current = -1;
+    int failures = 0;
+    QTimer clock;
+    QElapsedTimer waiting;
+};
+
+#endif // OPERATORTOUR_H
