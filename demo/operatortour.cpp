@@ -46,82 +46,7 @@ OperatorTour::OperatorTour(MainWindow &mainWindow, SounderLine &line, const QDir
 {
     clock.setInterval(lookInterval);
     connect(&clock, &QTimer::timeout, this, &OperatorTour::watch);
-    planConnecting();
-    planChanging();
-    planLooking();
-    planLeaving();
-}
-
-void OperatorTour::planConnecting()
-{
-    add(
-        "Start", [] {}, [this] { return find<QComboBox>("portComboBox")->count() > 1; });
-    add(
-        "Connect without a choice", [this] { click("connectToDevice"); },
-        [this] { return popup("Error") != nullptr; }, [this] { return popup("Error"); });
-    add(
-        "Choose the port and Auto",
-        [this] {
-            popup("Error")->close();
-            choose("portComboBox", sounder.portPath());
-            choose("baudComboBox", "Auto");
-        },
-        [this] { return find<QComboBox>("baudComboBox")->currentText() == "Auto"; });
-    add(
-        "Search the rate", [this] { click("connectToDevice"); },
-        [this] { return infoHolds("Trying"); });
-    add(
-        "Connected", [] {}, [this] { return isConnected(); });
-}
-
-void OperatorTour::planChanging()
-{
-    add(
-        "Change the draft", [this] { click("highDraftUp"); },
-        [this] { return infoHolds("High Frequency Draft to 0.50 m ... Success"); });
-    add(
-        "Ten pings per second", [this] { type("pingEdit", "10"); },
-        [this] { return infoHolds("Pings Per Second to 10 ... Success"); });
-    add(
-        "Maximum depth refused", [this] { type("maxDepthEdit", "80"); },
-        [this] { return infoHolds("Reduce pings per second"); });
-    add(
-        "Maximum depth accepted", [this] { type("maxDepthEdit", "60"); },
-        [this] { return infoHolds("Maximum Depth to 60 m ... Success"); });
-    add(
-        "High channel in manual mode", [this] { click("highManualRadio"); },
-        [this] { return infoHolds("Sounder Mode to Manual ... Success"); });
-}
-
-void OperatorTour::planLooking()
-{
-    const auto shown = [this](const char *title) {
-        return [this, title] { return popup(title) != nullptr; };
-    };
-    const auto pictureOf = [this](const char *title) {
-        return [this, title] { return popup(title); };
-    };
-    add(
-        "Low frequency tab", [this] { clickTab(1); },
-        [this] { return find<QTabWidget>("h")->currentIndex() == 1; });
-    add(
-        "Help", [this] { click("commonSettingsInfo"); }, shown("Information"),
-        pictureOf("Information"));
-    add(
-        "Depth graph", [this] { click("openGraph"); }, shown("Depth Graph"),
-        pictureOf("Depth Graph"));
-}
-
-void OperatorTour::planLeaving()
-{
-    add(
-        "Disconnect", [this] { click("connectToDevice"); }, [this] { return !isConnected(); });
-    add(
-        "Connect again at the rate found", [this] { click("connectToDevice"); },
-        [this] { return isConnected(); });
-    add(
-        "The sounder is pulled away", [this] { sounder.hangUp(); },
-        [this] { return infoHolds("Lost Connection To Device"); });
+    plan();
 }
 
 void OperatorTour::add(const QString &name, std::function<void()> act, std::function<bool()> isDone)
@@ -186,14 +111,9 @@ void OperatorTour::takePicture() const
     }
 }
 
-template <typename Widget>
-Widget *OperatorTour::find(const QString &name) const
+void OperatorTour::addChange(const QString &name, std::function<void()> act, const char *confirmed)
 {
-    auto *const widget = window.findChild<Widget *>(name);
-    if (widget == nullptr) {
-        qFatal("The window has no %s", qPrintable(name));
-    }
-    return widget;
+    add(name, std::move(act), [this, confirmed] { return infoHolds(confirmed); });
 }
 
 void OperatorTour::click(const QString &name) const
@@ -222,6 +142,14 @@ void OperatorTour::type(const QString &edit, const QString &text) const
     widget->selectAll();
     QTest::keyClicks(widget, text);
     QTest::keyClick(widget, Qt::Key_Return);
+}
+
+void OperatorTour::answer(const char *title, QMessageBox::StandardButton button) const
+{
+    auto *const box = qobject_cast<QMessageBox *>(popup(title));
+    if (box != nullptr && box->button(button) != nullptr) {
+        QTest::mouseClick(box->button(button), Qt::LeftButton);
+    }
 }
 
 QString OperatorTour::info() const

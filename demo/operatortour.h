@@ -4,15 +4,17 @@
 #ifndef OPERATORTOUR_H
 #define OPERATORTOUR_H
 
+#include "mainwindow.h"
+
 #include <QDir>
 #include <QElapsedTimer>
+#include <QMessageBox>
 #include <QObject>
 #include <QTimer>
 #include <QVector>
 
 #include <functional>
 
-class MainWindow;
 class SounderLine;
 
 /// Plays an operator's tour through the real window with real clicks and keys: each step acts,
@@ -42,13 +44,23 @@ private:
         std::function<QWidget *()> shown; ///< the window that the picture is of
     };
 
+    // ---- operatortour_plan.cpp: what the operator does
+    void plan();
     void planConnecting();
-    void planChanging();
+    void planCommonSettings();
+    void planChannel();
+    void planOutput();
     void planLooking();
+    void planFeet();
     void planLeaving();
+
+    // ---- operatortour.cpp: how it is played
     void add(const QString &name, std::function<void()> act, std::function<bool()> isDone);
     void add(const QString &name, std::function<void()> act, std::function<bool()> isDone,
              std::function<QWidget *()> shown);
+
+    /// A step that ends when the info line holds these words.
+    void addChange(const QString &name, std::function<void()> act, const char *confirmed);
 
     void begin();
     void watch();
@@ -62,6 +74,7 @@ private:
     void clickTab(int index) const;
     void choose(const QString &list, const QString &entry) const;
     void type(const QString &edit, const QString &text) const;
+    void answer(const char *title, QMessageBox::StandardButton button) const;
     QString info() const;
     bool infoHolds(const char *words) const;
     bool isConnected() const;
@@ -76,5 +89,15 @@ private:
     QTimer clock;
     QElapsedTimer waiting;
 };
+
+template <typename Widget>
+Widget *OperatorTour::find(const QString &name) const
+{
+    auto *const widget = window.findChild<Widget *>(name);
+    if (widget == nullptr) {
+        qFatal("The window has no %s", qPrintable(name));
+    }
+    return widget;
+}
 
 #endif // OPERATORTOUR_H
