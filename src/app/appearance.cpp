@@ -6,6 +6,7 @@
 #include "myproxystyle.h"
 
 #include <QApplication>
+#include <QStyle>
 
 void prepareForHighDensity()
 {
@@ -22,4 +23,9 @@ void prepareForHighDensity()
 #endif
 }
 
-void giveProgramStyle() { QApplication::setStyle(new MyProxyStyle(QStringLiteral("fusion"))); }
+void giveProgramStyle()
+{
+    QApplication::setStyle(new MyProxyStyle(QStringLiteral("fusion")));
+    // The forms are drawn for a light window: a dark desktop theme must not bring white text to it.
+    QApplication::setPalette(QApplication::style()->standardPalette());
+}
