@@ -9,7 +9,7 @@ set(TALVERO_TEST_ENVIRONMENT
 function(talvero_add_test name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "LABEL;TIMEOUT" "SOURCES;LINK")
   if(NOT arg_TIMEOUT)
-    set(arg_TIMEOUT 120)
+    set(arg_TIMEOUT 300)
   endif()
   if(NOT arg_LABEL)
     get_filename_component(arg_LABEL ${CMAKE_CURRENT_SOURCE_DIR} NAME)
@@ -22,4 +22,15 @@ function(talvero_add_test name)
     LABELS ${arg_LABEL}
     TIMEOUT ${arg_TIMEOUT}
     ENVIRONMENT "${TALVERO_TEST_ENVIRONMENT}")
+endfunction()
+
+# talvero_add_dense_run(NAME PROGRAM [test functions...]): runs a test program once more as on a
+# display with twice the density.
+function(talvero_add_dense_run name program)
+  add_test(NAME ${name} COMMAND ${program} ${ARGN})
+  get_filename_component(label ${CMAKE_CURRENT_SOURCE_DIR} NAME)
+  set_tests_properties(${name} PROPERTIES
+    LABELS ${label}
+    TIMEOUT 300
+    ENVIRONMENT "${TALVERO_TEST_ENVIRONMENT};QT_SCALE_FACTOR=2")
 endfunction()

@@ -29,6 +29,7 @@ public:
     OperatorTour(MainWindow &mainWindow, SounderLine &line, const QDir &folder,
                  QObject *parent = nullptr);
 
+    /// Begins as soon as the event loop runs.
     void start();
 
 signals:

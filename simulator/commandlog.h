@@ -13,11 +13,16 @@
 class CommandLog
 {
 public:
+    /// Bytes heard at the right rate.
     void addRaw(const QByteArray &bytes);
+    /// One command as the device took it.
     void addCommand(const QByteArray &command);
+    /// Counts this kind so many times more.
     void count(const QString &kind, int times = 1);
+    /// Forgets everything, the counts too.
     void clear();
 
+    /// What was added, oldest first, and how often each kind was counted.
     const QByteArrayList &commands() const { return taken; }
     const QByteArray &raw() const { return heard; }
     const QMap<QString, int> &counts() const { return kinds; }

@@ -83,7 +83,13 @@ PtySounder::PtySounder(const SounderOptions &options, QObject *parent)
     start();
 }
 
-PtySounder::~PtySounder() { closeTerminal(); }
+PtySounder::~PtySounder()
+{
+    closeTerminal();
+    if (slave >= 0) {
+        ::close(slave);
+    }
+}
 
 bool PtySounder::openTerminal()
 {
@@ -107,11 +113,9 @@ void PtySounder::closeTerminal()
         notifier->deleteLater(); // we may be in its signal
         notifier = nullptr;
     }
-    for (int *descriptor : {&slave, &master}) {
-        if (*descriptor >= 0) {
-            ::close(*descriptor);
-            *descriptor = -1;
-        }
+    if (master >= 0) {
+        ::close(master);
+        master = -1;
     }
 }
 

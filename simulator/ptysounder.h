@@ -41,7 +41,9 @@ private:
     void admitOtherOpeners();
 
     int master = -1;
-    int slave = -1; // held open, so that a program's closing is no hang-up for the device
+    // Held open, so that a program's closing is no hang-up for the device. After a hang-up it keeps
+    // the terminal's name from being given to somebody else while a program still has its lock.
+    int slave = -1;
     QString path;
     QSocketNotifier *notifier = nullptr;
     PtyOpeners openers;

@@ -17,6 +17,7 @@
 class ReceiveBuffer
 {
 public:
+    /// How a line can end: "\r\n", "\r" or "\n".
     enum LineEnd { CarriageReturnLineFeed, CarriageReturn, LineFeed };
 
     /// Every kind of line end, in the order in which lines are to be looked for: the pair goes
@@ -24,6 +25,7 @@ public:
     static constexpr std::array<LineEnd, 3> lineEnds{CarriageReturnLineFeed, CarriageReturn,
                                                      LineFeed};
 
+    /// Adds what has arrived, as it came.
     void append(const QByteArray &received);
 
     /// Takes the text before the first line end of this kind, together with the line end. Carriage
@@ -34,6 +36,7 @@ public:
     /// left over from the line before is dropped with the line that follows it.
     std::optional<QString> takeLine(LineEnd lineEnd);
 
+    /// Forgets everything that waits.
     void clear();
 
     /// The bytes that wait.

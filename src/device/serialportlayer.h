@@ -23,6 +23,7 @@ class SerialPortLayer : public QObject
     Q_OBJECT
 
 public:
+    /// The port is closed and no timer runs.
     explicit SerialPortLayer(QObject *parent = nullptr);
 
     /// Closes the port if it is open.

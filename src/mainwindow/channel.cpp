@@ -62,3 +62,9 @@ Channel channelOnForm(const QWidget &form, const QString &prefix, const QString 
     gather(channel.depth, "DepthLabel");
     return channel;
 }
+
+void Channel::showBlanking(const QString &distance, const QString &unitSuffix) const
+{
+    blanking->setText(distance);
+    blankingValue->setText(distance + " " + unitSuffix);
+}

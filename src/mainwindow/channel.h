@@ -58,6 +58,9 @@ struct Channel
 
     /// The setting's key for this channel: "highDraft" for "Draft".
     QString key(const char *setting) const { return prefix + QLatin1String(setting); }
+
+    /// Shows a blanking distance in its two places: the edit, and with its unit beside the slider.
+    void showBlanking(const QString &distance, const QString &unitSuffix) const;
 };
 
 /// Gathers a channel's controls from the form by their names. `radioSuffix` ends the names of the

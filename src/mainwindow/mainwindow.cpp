@@ -12,6 +12,7 @@
 
 #include <QCloseEvent>
 #include <QFile>
+#include <QTabBar>
 #include <QWindowStateChangeEvent>
 
 #include <chrono>
@@ -29,6 +30,9 @@ constexpr auto temperatureInterval = 5s;
 constexpr auto resizeGrace = 1s;
 
 constexpr QSize startSize(1136, 800);
+
+/// The output format that the list shows until a device has told its own.
+constexpr char startFormat[] = "NMEA DBS";
 
 constexpr char listItemStyle[] = "QListView::item {min-height:20px;padding: 1px 23px 1px 10px;}"
                                  "QListView::item:hover {color: black;}";
@@ -53,6 +57,8 @@ MainWindow::MainWindow(PortLister ports, QWidget *parent)
     high = channelOnForm(*this, "high", "HF", &highModeLocked, &highDisabled);
     low = channelOnForm(*this, "low", "LF", &lowModeLocked, &lowDisabled);
     resize(normalSize);
+    // On the tab widget itself the form cannot set it without the pages taking it over.
+    ui->h->tabBar()->setCursor(Qt::PointingHandCursor);
     styleLists();
     new WheelGuard(this);
     ui->label_33->setText("TAL-VERO Connect Version: " + version);
@@ -99,7 +105,6 @@ void MainWindow::configureTimers()
         {resizeTimer, "resizeTimer", resizeGrace, true},
     };
     for (const Plan &plan : plans) {
-        plan.timer.setParent(this);
         plan.timer.setObjectName(plan.name);
         plan.timer.setInterval(plan.interval);
         plan.timer.setSingleShot(plan.singleShot);
@@ -139,25 +144,28 @@ void MainWindow::initialize()
 {
     // Deliberately the second such connection: the second run finds no line left.
     connect(&serial, SIGNAL(gotData()), this, SLOT(gotSerialData()));
-    {
-        const PausedEdits paused(*this);
-        ui->portComboBox->clear();
-        ui->portComboBox->addItems(settings.portList());
-        ui->baudComboBox->clear();
-        ui->baudComboBox->addItems(rateChoices());
-        ui->newBaudComboBox->clear();
-        ui->newBaudComboBox->addItems(settings.baudList());
-        const QString shownFormat = ui->formatComboBox->currentText();
-        ui->formatComboBox->clear();
-        ui->formatComboBox->addItems(settings.formatList());
-        ui->formatComboBox->setCurrentText(shownFormat);
-        setImperialDisplay(false);
-    }
+    fillLists();
     offline = true;
     updateControls();
+    const PausedEdits paused(*this);
+    setImperialDisplay(false);
 }
 
-void MainWindow::setInfoText(const QString &text) { setInfoText(QStringLiteral("black"), text); }
+void MainWindow::fillLists()
+{
+    const PausedEdits paused(*this);
+    ui->portComboBox->clear();
+    ui->portComboBox->addItems(settings.portList());
+    ui->baudComboBox->clear();
+    ui->baudComboBox->addItems(rateChoices());
+    ui->newBaudComboBox->clear();
+    ui->newBaudComboBox->addItems(settings.baudList());
+    ui->formatComboBox->clear();
+    ui->formatComboBox->addItems(settings.formatList());
+    ui->formatComboBox->setCurrentText(startFormat);
+}
+
+void MainWindow::setInfoText(const QString &text) { setInfoText(InfoColour::progress, text); }
 
 void MainWindow::setInfoText(const QString &colour, const QString &text)
 {

@@ -24,6 +24,13 @@ namespace Ui {
 class MainWindow;
 }
 
+/// The colours in which the info line speaks, as its rich text names them.
+namespace InfoColour {
+constexpr char progress[] = "black";
+constexpr char success[] = "Green";
+constexpr char failure[] = "Red";
+} // namespace InfoColour
+
 /// The operator's window and the controller behind it: turns clicks into settings and commands, and
 /// what the sounder sends into what the window shows. It owns the settings, the serial link, the
 /// depth graph and the help window. Each banner below names the file that implements what follows.
@@ -45,6 +52,7 @@ signals:
     void gotDepths(float hf, float lf);
     /// The device's maximum depth in metres.
     void setMaxDepth(float depth);
+    /// Whether lengths are to be shown in feet.
     void goToImperial(bool imperial);
     /// "HF", "LF" or "Dual": the channels that the connected unit carries.
     void setFrequency(QString freq);
@@ -199,6 +207,7 @@ private:
     void makeConnections();
     void hideWhatIsNotOffered();
     void initialize();
+    void fillLists();
     void setInfoText(const QString &text);
     void setInfoText(const QString &colour, const QString &text);
 
@@ -230,6 +239,7 @@ private:
 
     // ---- mainwindow_settingsreply.cpp
     void parseSetting(const QString &line);
+    void applyPiece(const Protocol::ReplyPiece &piece, Protocol::ReplyKind kind);
     void applyCommonPiece(const Protocol::ReplyPiece &piece);
     void applyHighSwitch(const QString &value);
     void applyLowSwitch(const QString &value);
@@ -240,19 +250,11 @@ private:
     void applyMaxDepth(const QString &value);
     void applyVelocity(const QString &value);
     void applyChannelPiece(Channel &channel, const Protocol::ReplyPiece &piece);
-    void applyMode(Channel &channel, const QString &value);
-    void applyGain(Channel &channel, const QString &value);
-    void applyTvg(Channel &channel, const QString &value);
-    void applyBlanking(Channel &channel, const QString &value);
-    void applyDraft(Channel &channel, const QString &value);
-    void applyIndex(Channel &channel, const QString &value);
-    void applyPulse(Channel &channel, const QString &value);
-    void applyDetection(Channel &channel, const QString &value);
-    void applyFrequency(Channel &channel, const QString &value);
+    void applyMode(Channel &channel, QChar mode);
 
     // ---- mainwindow_depths.cpp
     void parseDepth(const QString &line);
-    void rememberPair(const QString &line, const DepthSentence::Depths &depths);
+    void noteSentence(const QString &line, const DepthSentence::Depths &depths);
     void showDepth(Channel &channel, const char *prefix, float metres);
     void showNmeaDepth(const QString &line, float metres, bool isLow);
 
@@ -272,7 +274,6 @@ private:
     int changeField(QLineEdit *edit, const QString &name, float step, bool inImperial);
     void changeMaxDepth(float step);
     void enterBlanking(Channel &channel);
-    void showBlanking(Channel &channel, float shownValue);
     Channel &channelOf(const QString &name);
 
     // ---- mainwindow_sliders.cpp
@@ -288,7 +289,8 @@ private:
     void chooseWord(bool checked, const QString &name, const QString &word);
     void chooseMode(bool checked, Channel &channel, const QString &mode);
     void followHighShallow(bool shallow);
-    void switchChannel(Channel &channel, bool on, const QString &announcement, const char *command);
+    void switchChannel(bool checked, Channel &channel, bool on, const QString &announcement,
+                       const char *command);
 
     // ---- mainwindow_units.cpp
     void setImperialDisplay(bool inImperial);
@@ -316,12 +318,12 @@ private:
     int userEdits = 1; ///< 0 while the window fills itself
     SerialPortLayer serial;
     QStringList knownPorts;
-    QTimer infoTimer;
-    QTimer commandTimer;
-    QTimer portScanTimer;
-    QTimer answerTimer;
-    QTimer temperatureTimer;
-    QTimer resizeTimer; ///< its running alone counts: a silence meanwhile is forgiven
+    QTimer infoTimer{this};
+    QTimer commandTimer{this};
+    QTimer portScanTimer{this};
+    QTimer answerTimer{this};
+    QTimer temperatureTimer{this};
+    QTimer resizeTimer{this}; ///< its running alone counts: a silence meanwhile is forgiven
     QStringList pendingChanges;
     depthGraph graph;
     bool autoSave = false;
@@ -332,7 +334,7 @@ private:
     bool lowDisabled = false;
     bool offline = false;
     bool formatLocked = false;
-    bool settingsReceived = false;
+    bool settingsReceived = false; ///< since the start; noted, not yet asked by anything
     float lastHfDepth = DepthSentence::noDepth;
     float lastLfDepth = DepthSentence::noDepth;
     float fakeDataCount = 0.0F;

@@ -41,8 +41,8 @@ void MainWindow::on_saveSettings_clicked()
     neverShown.setWindowTitle("Save Settings");
     neverShown.setDefaultSuffix(".xml");
     neverShown.setAcceptMode(QFileDialog::AcceptOpen);
-    settingsFileName(QFileDialog::getSaveFileName(this, "Save Settings to File", QString(),
-                                                  "XML files (*.xml)"));
+    [[maybe_unused]] const QString name = settingsFileName(QFileDialog::getSaveFileName(
+        this, "Save Settings to File", QString(), "XML files (*.xml)"));
 }
 
 void MainWindow::on_importButton_clicked()

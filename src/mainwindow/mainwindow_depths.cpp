@@ -27,7 +27,7 @@ void MainWindow::parseDepth(const QString &line)
     const bool nmeaCarriesLow = !ui->enableHF->isChecked() && ui->enableLF->isChecked();
     const DepthSentence::Depths depths = DepthSentence::read(
         line, {nmeaCarriesLow, ui->formatComboBox->currentText(), lastHfDepth, lastLfDepth});
-    rememberPair(line, depths);
+    noteSentence(line, depths);
     if (depths.high < 0.0F && depths.low < 0.0F) {
         if (!ui->enableLF->isChecked()) {
             ui->lowDepthLabel->clear();
@@ -45,7 +45,7 @@ void MainWindow::parseDepth(const QString &line)
 }
 
 /// What a sentence leaves behind besides the depths that it shows.
-void MainWindow::rememberPair(const QString &line, const DepthSentence::Depths &depths)
+void MainWindow::noteSentence(const QString &line, const DepthSentence::Depths &depths)
 {
     using namespace DepthSentence;
     if (depths.emptied != Emptied::None) {

@@ -50,6 +50,9 @@ int truncated(float value)
 
 int MainWindow::changeField(QLineEdit *edit, const QString &name, float step)
 {
+    if (userEdits == 0) {
+        return truncated(NumberText::toFloat(edit->text()));
+    }
     const QString before = edit->text();
     const bool convert = imperial && hasUnit(name);
     const float next = Units::metric(NumberText::toFloat(before) + step, convert);
@@ -65,6 +68,9 @@ int MainWindow::changeField(QLineEdit *edit, const QString &name, float step)
 
 int MainWindow::changeField(QLineEdit *edit, const QString &name, float step, bool /*inImperial*/)
 {
+    if (userEdits == 0) {
+        return truncated(NumberText::toFloat(edit->text()));
+    }
     const QString before = edit->text();
     const float shown = NumberText::toFloat(before) + step;
     DEBUG_LOG << "Attempted Displayed Value is  " << shown;
@@ -78,7 +84,7 @@ int MainWindow::changeField(QLineEdit *edit, const QString &name, float step, bo
     }
     DEBUG_LOG << "current value is " << before << " metric is " << metric << " res is " << res;
     if (isBlanking(name)) {
-        showBlanking(channelOf(name), res);
+        channelOf(name).showBlanking(NumberText::fixed(res, 2), unitSuffix);
     } else {
         edit->setText(NumberText::fixed(res, decimalsOf(name)));
     }
@@ -90,14 +96,6 @@ int MainWindow::changeField(QLineEdit *edit, const QString &name, float step, bo
 Channel &MainWindow::channelOf(const QString &name)
 {
     return name.contains(QLatin1String("high")) ? high : low;
-}
-
-/// A blanking distance stands in two places: the edit, and the label beside the slider.
-void MainWindow::showBlanking(Channel &channel, float shownValue)
-{
-    const QString text = NumberText::fixed(shownValue, 2);
-    channel.blanking->setText(text);
-    channel.blankingValue->setText(text + " " + unitSuffix);
 }
 
 void MainWindow::changeMaxDepth(float step)

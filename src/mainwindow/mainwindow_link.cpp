@@ -154,7 +154,7 @@ void MainWindow::goOffline()
 void MainWindow::failLink(const QString &message)
 {
     goOffline();
-    setInfoText(QStringLiteral("Red"), message);
+    setInfoText(InfoColour::failure, message);
     closeLink();
 }
 
@@ -162,7 +162,7 @@ void MainWindow::serialTimeout()
 {
     DEBUG_LOG << "SERIAL TIMED OUT";
     if (commandInFlight) {
-        setInfoText(QStringLiteral("Red"), lastInfoText + " ... Command Timed Out");
+        setInfoText(InfoColour::failure, lastInfoText + " ... Command Timed Out");
         commandInFlight = false;
     } else if (connecting) {
         connecting = false;

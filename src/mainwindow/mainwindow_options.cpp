@@ -54,9 +54,13 @@ void MainWindow::followHighShallow(bool shallow)
     updateControls();
 }
 
-void MainWindow::switchChannel(Channel &channel, bool on, const QString &announcement,
+/// A channel is switched at once, past the queue: the transducer must stop pinging when asked to.
+void MainWindow::switchChannel(bool checked, Channel &channel, bool on, const QString &announcement,
                                const char *command)
 {
+    if (!checked || userEdits == 0) {
+        return;
+    }
     setInfoText(announcement);
     serial.sendCommand(command);
     *channel.disabled = !on;
@@ -64,35 +68,6 @@ void MainWindow::switchChannel(Channel &channel, bool on, const QString &announc
         *channel.modeLocked = true;
     }
     updateControls();
-}
-
-void MainWindow::on_enableHF_toggled(bool checked)
-{
-    if (checked && userEdits != 0) {
-        switchChannel(high, true, "Enabling High Frequency",
-                      Protocol::Command::enableHighFrequency);
-    }
-}
-
-void MainWindow::on_enableLF_toggled(bool checked)
-{
-    if (checked && userEdits != 0) {
-        switchChannel(low, true, "Enabling Low Frequency", Protocol::Command::enableLowFrequency);
-    }
-}
-
-void MainWindow::on_disableHF_toggled(bool checked)
-{
-    if (checked && userEdits != 0) {
-        switchChannel(high, false, "Disabling HF", Protocol::Command::disableHighFrequency);
-    }
-}
-
-void MainWindow::on_disableLF_toggled(bool checked)
-{
-    if (checked && userEdits != 0) {
-        switchChannel(low, false, "Disabling LF", Protocol::Command::disableLowFrequency);
-    }
 }
 
 void MainWindow::on_formatComboBox_currentTextChanged(const QString &format)
@@ -116,12 +91,16 @@ void MainWindow::on_highShallowRadio_toggled(bool checked)
 }
 
 // clang-format off
+void MainWindow::on_enableHF_toggled(bool checked) { switchChannel(checked, high, true, "Enabling High Frequency", Protocol::Command::enableHighFrequency); }
+void MainWindow::on_disableHF_toggled(bool checked) { switchChannel(checked, high, false, "Disabling HF", Protocol::Command::disableHighFrequency); }
+void MainWindow::on_enableLF_toggled(bool checked) { switchChannel(checked, low, true, "Enabling Low Frequency", Protocol::Command::enableLowFrequency); }
+void MainWindow::on_disableLF_toggled(bool checked) { switchChannel(checked, low, false, "Disabling LF", Protocol::Command::disableLowFrequency); }
+
 void MainWindow::on_highAutoRadio_toggled(bool checked) { chooseMode(checked, high, "Auto"); }
 void MainWindow::on_highManualRadio_toggled(bool checked) { chooseMode(checked, high, "Manual"); }
 void MainWindow::on_lowShallowRadio_toggled(bool checked) { chooseMode(checked, low, "Shallow"); }
 void MainWindow::on_lowAutoRadio_toggled(bool checked) { chooseMode(checked, low, "Auto"); }
 void MainWindow::on_lowManualRadio_toggled(bool checked) { chooseMode(checked, low, "Manual"); }
-
 
 void MainWindow::on_highOffTvg_toggled(bool checked) { chooseWord(checked, high.key("TVG"), "OFF"); }
 void MainWindow::on_highLog10Tvg_toggled(bool checked) { chooseWord(checked, high.key("TVG"), "Log 10"); }

@@ -69,7 +69,7 @@ void MainWindow::sendLatestCommand()
     const QString name = pendingChanges.first();
     const QString bareCommand = settings.getCommandString(name);
     if (bareCommand.isEmpty()) {
-        setInfoText(QStringLiteral("Red"), QStringLiteral("Unknown Setting"));
+        setInfoText(InfoColour::failure, QStringLiteral("Unknown Setting"));
         return; // the name stays in front until the next change restarts the timer
     }
     const QString command = paddedForChannel(bareCommand, name);

@@ -92,7 +92,7 @@ void MainWindow::acceptBanner(const QString &line)
     }
     DEBUG_LOG << "we have a TalVero New";
     settings.setDeviceType(QStringLiteral("TalVeroNew"));
-    setInfoText(QStringLiteral("Green"), QStringLiteral("Connected to TAL-VERO"));
+    setInfoText(InfoColour::success, QStringLiteral("Connected to TAL-VERO"));
     offline = false;
     updateControls();
     setConnectButton(true);
@@ -141,7 +141,7 @@ void MainWindow::setFitted(Channel &channel, bool fitted)
 
 void MainWindow::acknowledge(const QString & /*line*/)
 {
-    setInfoText(QStringLiteral("Green"), lastInfoText + " ... Success");
+    setInfoText(InfoColour::success, lastInfoText + " ... Success");
     commandInFlight = false;
     const QString rate = ui->baudComboBox->currentText();
     const QString newRate = ui->newBaudComboBox->currentText();
@@ -176,7 +176,7 @@ void MainWindow::refuse(const QString & /*line*/)
             return lastInfoText.contains(QLatin1String(candidate.setting));
         });
     const char *words = advice == std::end(advices) ? plainRefusal : advice->words;
-    setInfoText(QStringLiteral("Red"), lastInfoText + words);
+    setInfoText(InfoColour::failure, lastInfoText + words);
     commandInFlight = false;
 }
 

@@ -82,7 +82,7 @@ float MainWindow::changeField(QLabel *label, const QString &name, float value, b
     const float stored = settings.changeSetting(name, NumberText::fromFloat(metric));
     const float res = Units::shown(stored, inImperial);
     if (holds(name, "Blank")) {
-        showBlanking(channelOf(name), res);
+        channelOf(name).showBlanking(NumberText::fixed(res, 2), unitSuffix);
     } else {
         label->clear();
     }
@@ -112,7 +112,7 @@ void MainWindow::slideBlanking(Channel &channel)
     }
     const float result = static_cast<float>(cur) / static_cast<float>(max) *
                          (imperial ? imperialBlankingSpan : metricBlankingSpan);
-    showBlanking(channel, result);
+    channel.showBlanking(NumberText::fixed(result, 2), unitSuffix);
     DEBUG_LOG << "Max is " << max << "Current is " << cur << "Result is" << result;
     changeField(channel.blanking, channel.key("Blank"), 0.0F);
 }

@@ -6,11 +6,10 @@
 #include "commandencoding.h"
 #include "debuglog.h"
 #include "numbertext.h"
+#include "portlister.h"
 #include "settingsreport.h"
 #include "settingstable.h"
 #include "valuerules.h"
-
-#include <QSerialPortInfo>
 
 #include <utility>
 
@@ -20,20 +19,10 @@ constexpr float acceptedWord = 0.0F;
 constexpr float refused = -1.0F;
 constexpr float unknownKey = -1.0F;
 
-QStringList systemPortNames()
-{
-    QStringList names;
-    const auto ports = QSerialPortInfo::availablePorts();
-    for (const QSerialPortInfo &port : ports) {
-        names << port.portName();
-    }
-    return names;
-}
-
 } // namespace
 
 Settings::Settings(QWidget *parent)
-    : Settings(systemPortNames(), parent)
+    : Settings(systemSerialPorts(), parent)
 {}
 
 Settings::Settings(const QStringList &portNames, QWidget *parent)

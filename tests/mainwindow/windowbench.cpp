@@ -5,6 +5,7 @@
 
 #include "appearance.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -44,10 +45,27 @@ WindowBench::WindowBench(const SounderOptions &options)
 {
     ports = QStringList{QStringLiteral("ttyNOBODY"), sounder.portPath()};
     QMetaObject::invokeMethod(&window, "updateSerialPorts");
+    watchForForgottenBoxes();
     window.show();
     if (!QTest::qWaitForWindowExposed(&window)) {
         qFatal("the window did not open");
     }
+}
+
+/// A message box that no test answers would keep the program in its event loop for ever.
+void WindowBench::watchForForgottenBoxes()
+{
+    constexpr int patienceMs = 30000;
+    boxWatch.setInterval(patienceMs / 2);
+    QObject::connect(&boxWatch, &QTimer::timeout, [this] {
+        const QWidget *box = QApplication::activeModalWidget();
+        if (box != nullptr && box == boxSeen) {
+            qFatal("A box waits for an answer: %s",
+                   qPrintable(box->windowTitle() + ": " + box->property("text").toString()));
+        }
+        boxSeen = box;
+    });
+    boxWatch.start();
 }
 
 void WindowBench::reportMissing(const QString &name) const

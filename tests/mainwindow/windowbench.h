@@ -80,7 +80,12 @@ public:
     MainWindow window;
 
 private:
+    void watchForForgottenBoxes();
+
     [[noreturn]] void reportMissing(const QString &name) const;
+
+    QTimer boxWatch;
+    const QWidget *boxSeen = nullptr;
 };
 
 #endif // WINDOWBENCH_H

@@ -28,7 +28,13 @@ RawPty::RawPty()
     fcntl(slave, F_SETFD, FD_CLOEXEC);
 }
 
-RawPty::~RawPty() { hangUp(); }
+RawPty::~RawPty()
+{
+    hangUp();
+    if (slave >= 0) {
+        ::close(slave);
+    }
+}
 
 int RawPty::write(const QByteArray &bytes)
 {
@@ -62,7 +68,6 @@ void RawPty::hangUp()
     }
     received(); // what arrived before stays readable
     ::close(master);
-    ::close(slave);
-    master = slave = -1;
+    master = -1;
     errno = 0;
 }

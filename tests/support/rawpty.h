@@ -47,7 +47,10 @@ public:
 
 private:
     int master = -1;
-    int slave = -1; // held open, so that the program may close the port and open it again
+    // Held open, so that the program may close the port and open it again. It stays open after a
+    // hang-up: the system would give the terminal's name to somebody else at once, whom the
+    // program's lock on the name would keep out.
+    int slave = -1;
     QString path;
     QByteArray collected;
 };
