@@ -15,12 +15,3 @@ if(TALVERO_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
 endif()
-
-# talvero_library(NAME sources... LINK libraries...): a static library whose headers are included by
-# their bare names.
-function(talvero_library name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "LINK")
-  add_library(${name} STATIC ${arg_UNPARSED_ARGUMENTS})
-  target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
-  target_link_libraries(${name} PUBLIC ${arg_LINK} PRIVATE talvero_warnings)
-endfunction()

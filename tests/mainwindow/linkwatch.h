@@ -4,7 +4,6 @@
 #ifndef LINKWATCH_H
 #define LINKWATCH_H
 
-#include "rawpty.h"
 #include "windowbench.h"
 
 #include <QAbstractButton>
@@ -15,9 +14,6 @@
 #include <QSerialPort>
 #include <QTimer>
 #include <QVector>
-
-#include <fcntl.h>
-#include <unistd.h>
 
 /// What the tests of the link look at, besides what WindowBench shows.
 namespace LinkWatch {
@@ -46,26 +42,6 @@ inline bool isFree(const QString &path)
     QSerialPort port(path);
     return port.open(QIODevice::ReadWrite);
 }
-
-/// Pulls the cable. As long as this lives, the system gives the path to nobody else: the window may
-/// try to open it again, and must not find the terminal of a test that runs meanwhile.
-class PulledCable
-{
-public:
-    explicit PulledCable(RawPty &pty)
-        : held(::open(pty.slavePath().toLocal8Bit().constData(), O_RDWR | O_NOCTTY | O_CLOEXEC))
-    {
-        pty.hangUp();
-    }
-
-    ~PulledCable() { ::close(held); }
-
-    PulledCable(const PulledCable &) = delete;
-    PulledCable &operator=(const PulledCable &) = delete;
-
-private:
-    int held;
-};
 
 /// Whether the connect button carries this picture of the resources' image folder.
 inline bool connectButtonShows(WindowBench &bench, const QString &picture)

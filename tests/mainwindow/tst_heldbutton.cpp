@@ -6,6 +6,8 @@
 #include "sliderbench.h"
 
 #include <QElapsedTimer>
+#include <QPushButton>
+#include <QRegularExpression>
 
 namespace {
 
@@ -40,6 +42,8 @@ class HeldButtonTest : public QObject
 private slots:
     void initTestCase() { giveProgramStyle(); }
 
+    void everyStepButtonRepeatsWhileItIsHeld();
+    void aHeldButtonStepsOnAndSendsOnce();
     void aFieldsButton();
     void aSlidersButtonIgnoredAtItsEnd();
     void aSlidersArrowKey();
@@ -63,6 +67,36 @@ void HeldButtonTest::holdRepeatedly(SliderBench &bench, const std::function<void
         QVERIFY2(commands.size() <= 1 + pauses, qPrintable(commands.join(' ')));
     }
     QVERIFY2(!bench.hasPendingChange(), "something is left in the queue");
+}
+
+void HeldButtonTest::everyStepButtonRepeatsWhileItIsHeld()
+{
+    SliderBench bench;
+    int stepButtons = 0;
+    const auto buttons = bench.window.findChildren<QPushButton *>(QRegularExpression("(Up|Down)$"));
+    for (const QPushButton *button : buttons) {
+        QVERIFY2(button->autoRepeat(), qPrintable(button->objectName()));
+        ++stepButtons;
+    }
+    QCOMPARE(stepButtons, 34);
+}
+
+void HeldButtonTest::aHeldButtonStepsOnAndSendsOnce()
+{
+    SliderBench bench;
+    bench.useChannel("high");
+    auto *const button = bench.find<QPushButton>("highDraftUp");
+    const double before = bench.text("highDraft").toDouble();
+    constexpr double fiveSteps = 0.5;
+    QTest::mousePress(button, Qt::LeftButton);
+    QTRY_VERIFY2(bench.text("highDraft").toDouble() > before + fiveSteps, "it steps but once");
+    QTest::mouseRelease(button, Qt::LeftButton);
+    const double reached = bench.text("highDraft").toDouble();
+    const QByteArrayList commands = bench.takeCommands();
+    QVERIFY(!commands.isEmpty());
+    QCOMPARE(commands.last(),
+             QByteArray("*o") + QByteArray::number(qRound(reached * 1000)).rightJustified(5, '0') +
+                 "H");
 }
 
 void HeldButtonTest::aFieldsButton()

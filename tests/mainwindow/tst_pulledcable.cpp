@@ -110,7 +110,7 @@ void TestPulledCable::isReportedOnceAndCostsNothing()
     InfoRecorder infos(bench);
 
     const double before = processorSeconds();
-    const PulledCable pulled(bench.line);
+    bench.line.hangUp();
     errno = errorLeftBehind;
     QTest::qWait(1000); // the second that is measured
     const double spent = processorSeconds() - before;
@@ -136,7 +136,7 @@ void TestPulledCable::isNotReportedAgain()
     RawBench bench;
     QVERIFY(bring(bench, LinkState::Connected));
     const LogCapture log;
-    const PulledCable pulled(bench.line);
+    bench.line.hangUp();
     QTRY_COMPARE(bench.info(), QString(lostInfo));
     InfoRecorder infos(bench);
     QTest::qWait(2300); // longer than any answer timer
@@ -151,7 +151,7 @@ void TestPulledCable::isReportedAfterAResizeToo()
     const LogCapture log;
     bench.window.resize(bench.window.size() - QSize(20, 20));
     QVERIFY(bench.timer("resizeTimer")->isActive());
-    const PulledCable pulled(bench.line);
+    bench.line.hangUp();
     QTRY_COMPARE_WITH_TIMEOUT(bench.info(), QString(lostInfo), 10000);
     QCOMPARE(log.count("Ignoring serial timeout because timer is active"), 1);
     QCOMPARE(log.count(portFailed), 1);
@@ -162,7 +162,7 @@ void TestPulledCable::isNoMatterWhileNotConnected()
     RawBench bench;
     bench.choose("portComboBox", bench.line.slavePath());
     const LogCapture log;
-    const PulledCable pulled(bench.line);
+    bench.line.hangUp();
     QVERIFY(!QTest::qWaitFor([&] { return !bench.info().isEmpty(); }, 300));
     QCOMPARE(log.count(portFailed), 0);
     QCOMPARE(log.count("SERIAL TIMED OUT"), 0);
@@ -170,17 +170,15 @@ void TestPulledCable::isNoMatterWhileNotConnected()
 
 void TestPulledCable::connectsAgainAfterPluggingIn()
 {
+    RawPty again; // outlives the window, so that it is free when somebody else gets it
     RawBench bench;
     bench.timer("portScanTimer")->setInterval(5);
     QVERIFY(bring(bench, LinkState::CommandInFlight));
-    {
-        const PulledCable pulled(bench.line);
-        QTRY_COMPARE_WITH_TIMEOUT(bench.info(), QString(lostInfo), 10000);
-    }
+    bench.line.hangUp();
+    QTRY_COMPARE_WITH_TIMEOUT(bench.info(), QString(lostInfo), 10000);
     bench.ports.removeAll(bench.line.slavePath());
     QTRY_COMPARE(bench.text("portComboBox"), QString("Select Port"));
 
-    RawPty again; // under another name
     bench.ports.append(again.slavePath());
     QTRY_VERIFY(bench.find<QComboBox>("portComboBox")->findText(again.slavePath()) > 0);
     QCOMPARE(bench.text("portComboBox"), QString("Select Port"));

@@ -205,7 +205,7 @@ void TestRateSearch::portLostDuringTheSearch()
     hurry(bench, 200);
     bench.pressConnectRaw("Auto");
     QTRY_COMPARE(bench.info(), trying("9600"));
-    const PulledCable pulled(bench.line);
+    bench.line.hangUp();
     QTRY_COMPARE(bench.info(), QString(notConnectedInfo));
     QCOMPARE(bench.infoColour(), QString("Red"));
     QCOMPARE(bench.text("connectToDevice"), QString(connectText));
