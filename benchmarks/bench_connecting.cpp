@@ -26,7 +26,7 @@ void connectUntilFilled(benchmark::State &state)
     options.rate = static_cast<int>(state.range(0));
     WindowBench bench(options);
     const QString rate = QString::number(options.rate);
-    for (auto iteration : state) {
+    while (state.KeepRunning()) {
         bench.pressConnect(rate);
         waitUntilFilled(bench);
         state.PauseTiming();
