@@ -124,7 +124,7 @@ private slots:
     void everyImageLetsTheFormShineThrough();
     void denseDisplaysGetTwiceThePixels_data();
     void denseDisplaysGetTwiceThePixels();
-    void imagesFitTheDensityOfTheDisplay_data() { everyImageLoadsInItsSize_data(); }
+    void imagesFitTheDensityOfTheDisplay_data();
     void imagesFitTheDensityOfTheDisplay();
     void programIconHasEverySizeThatDesktopsAskFor();
     void spinnerTurnsForever();
@@ -215,12 +215,21 @@ void ResourcesTest::denseDisplaysGetTwiceThePixels()
     QCOMPARE(QImage(path).size(), size);
 }
 
+/// Only the PNG images come in two densities; the program's icon and the spinner do not.
+void ResourcesTest::imagesFitTheDensityOfTheDisplay_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QSize>("size");
+    for (const Image &image : images) {
+        if (isPng(image.name))
+            QTest::newRow(image.name) << pathOf(image.name) << image.size;
+    }
+}
+
 void ResourcesTest::imagesFitTheDensityOfTheDisplay()
 {
     QFETCH(QString, path);
     QFETCH(QSize, size);
-    if (!path.endsWith(".png"))
-        QSKIP("Only the PNG images come in two densities");
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QCOMPARE(QIcon(path).pixmap(size).size(), size * qApp->devicePixelRatio());
 }
