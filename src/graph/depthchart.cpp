@@ -3,6 +3,8 @@
 
 #include "depthchart.h"
 
+#include "pixelstrokes.h"
+
 #include <QFont>
 #include <QFontMetrics>
 #include <QImage>
@@ -11,17 +13,13 @@
 
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 namespace {
 
 constexpr double drawableShare = 0.9; // of the height; the range fills it
 constexpr double topShare = 0.05;     // of the height, above depth 0
 constexpr double scaleShare = 1.1;    // the scale goes on below the range
-
-QPen solidPen(const QColor &colour, double width)
-{
-    return {colour, width, Qt::SolidLine, Qt::SquareCap, Qt::RoundJoin};
-}
 
 QPen dashedPen(const QColor &colour)
 {
@@ -31,23 +29,11 @@ QPen dashedPen(const QColor &colour)
     return pen;
 }
 
-/// Made once: a chart sets its pens up to 2300 times.
-struct Pens
-{
-    const QPen hfDot = solidPen(QColor(0, 0, 255), 3.0);
-    const QPen lfDot = solidPen(QColor(255, 0, 0), 3.0);
-    const QPen lfBelowHf = solidPen(QColor(64, 192, 255), 1.0);
-    const QPen lfAboveHf = solidPen(QColor(255, 192, 192), 1.0);
-    const QPen grid = QPen(Qt::darkGray);
-    const QPen label = QPen(Qt::black);
-    const QPen maxDepth = dashedPen(Qt::darkBlue);
-};
-
-const Pens &pens()
-{
-    static const Pens made;
-    return made;
-}
+constexpr QRgb hfDot = qRgb(0, 0, 255);
+constexpr QRgb lfDot = qRgb(255, 0, 0);
+constexpr QRgb lfBelowHf = qRgb(64, 192, 255);
+constexpr QRgb lfAboveHf = qRgb(255, 192, 192);
+constexpr QRgb grid = qRgb(128, 128, 128);
 
 /// Keeps coordinates that no screen reaches within what a painter and an integer can hold.
 double bounded(double coordinate)
@@ -95,41 +81,99 @@ private:
 
 bool hasDepth(float depth) { return depth != DepthChartData::noDepth; }
 
-void drawConnector(QPainter &painter, double x, double hfY, double lfY, const DepthSample &sample)
+/// One ping's strokes on the canvas.
+struct PlacedSample
 {
-    painter.setPen(sample.lf > sample.hf ? pens().lfBelowHf : pens().lfAboveHf);
-    painter.drawLine(wholePixel(x), wholePixel(hfY), wholePixel(x), wholePixel(lfY));
-}
+    PixelStrokes::DotColumn column;
+    double hfY;
+    double lfY;
+    int connectorX;
+    double connectorHfY;
+    double connectorLfY;
+    QRgb connectorColour;
+    bool hasHf;
+    bool hasLf;
+    bool hasConnector;
+};
 
-void drawSample(QPainter &painter, double x, const Geometry &geometry, const DepthSample &sample)
+PlacedSample placed(const DepthSample &sample, int index, const Geometry &geometry,
+                    const PixelStrokes &strokes)
 {
+    const double x = geometry.x(index);
     const double hfY = geometry.y(static_cast<double>(sample.hf));
     const double lfY = geometry.y(static_cast<double>(sample.lf));
-    if (hasDepth(sample.hf)) {
-        painter.setPen(pens().hfDot);
-        painter.drawPoint(QPointF(x, hfY));
-        if (hasDepth(sample.lf) && sample.hf != 0.0F && sample.lf != 0.0F) {
-            drawConnector(painter, x, hfY, lfY, sample);
-        }
+    PlacedSample result;
+    result.column = strokes.dotColumn(x);
+    result.hfY = hfY + geometry.top();
+    result.lfY = lfY + geometry.top();
+    result.connectorX = wholePixel(geometry.width) - wholePixel(x);
+    result.connectorHfY = wholePixel(hfY) + geometry.top();
+    result.connectorLfY = wholePixel(lfY) + geometry.top();
+    result.connectorColour = sample.lf > sample.hf ? lfBelowHf : lfAboveHf;
+    result.hasHf = hasDepth(sample.hf);
+    result.hasLf = hasDepth(sample.lf);
+    result.hasConnector = result.hasHf && result.hasLf && sample.hf != 0.0F && sample.lf != 0.0F;
+    return result;
+}
+
+/// The newest sample stands at the right edge, older ones to the left.
+std::vector<PlacedSample> placedSamples(const DepthChartData &chart, const Geometry &geometry,
+                                        const PixelStrokes &strokes)
+{
+    std::vector<PlacedSample> samples;
+    samples.reserve(static_cast<std::size_t>(chart.samples.size()));
+    for (int i = 0; i < chart.samples.size(); ++i) {
+        samples.push_back(placed(chart.samples.at(i), i, geometry, strokes));
     }
-    if (hasDepth(sample.lf)) {
-        painter.setPen(pens().lfDot);
-        painter.drawPoint(QPointF(x, lfY));
+    return samples;
+}
+
+void drawSample(PixelStrokes &strokes, const PlacedSample &sample)
+{
+    if (sample.hasHf) {
+        strokes.dot(sample.column, sample.hfY, hfDot);
+    }
+    if (sample.hasConnector) {
+        strokes.verticalLine(sample.connectorX, sample.connectorHfY, sample.connectorLfY,
+                             sample.connectorColour);
+    }
+    if (sample.hasLf) {
+        strokes.dot(sample.column, sample.lfY, lfDot);
     }
 }
 
-/// The newest sample stands at the right edge: x runs from there to the left.
-void drawSamples(QImage &canvas, const Geometry &geometry, const DepthChartData &chart)
+/// Whether a sample has a stroke in these rows; sometimes true where it has none.
+bool reaches(const PlacedSample &sample, int beginRow, int endRow)
 {
-    QPainter painter(&canvas);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.translate(geometry.width, geometry.top());
-    painter.scale(-1.0, 1.0);
-    int i = 0;
-    for (const DepthSample &sample : chart.samples) {
-        drawSample(painter, geometry.x(i), geometry, sample);
-        ++i;
+    constexpr double dotReach = 3.0; // half a dot, and more
+    const double top = (sample.hasHf ? sample.hfY : sample.lfY);
+    const double bottom = (sample.hasLf ? sample.lfY : sample.hfY);
+    return std::min(top, bottom) - dotReach < endRow && std::max(top, bottom) + dotReach > beginRow;
+}
+
+/// As many rows as the processor's cache holds beside other things.
+int rowsInBand(const QImage &canvas)
+{
+    constexpr int bytesInBand = 512 * 1024;
+    return std::max(1, bytesInBand / canvas.bytesPerLine());
+}
+
+/// Draws the samples on white. Two long connectors share most of their pixels' cache lines, but a
+/// big picture's column does not fit into the cache: so they are drawn band by band.
+void drawSamples(PixelStrokes &strokes, const std::vector<PlacedSample> &samples,
+                 const QImage &canvas)
+{
+    const int band = rowsInBand(canvas);
+    for (int row = 0; row < canvas.height(); row += band) {
+        strokes.limitToRows(row, row + band);
+        strokes.wipe();
+        for (const PlacedSample &sample : samples) {
+            if (reaches(sample, row, row + band)) {
+                drawSample(strokes, sample);
+            }
+        }
     }
+    strokes.limitToRows(0, canvas.height());
 }
 
 /// The distance between two marks of the scale. It follows the range in metres also when the scale
@@ -151,7 +195,8 @@ double scaleStep(int graphRange)
     return sixth;
 }
 
-void drawScale(QPainter &painter, const Geometry &geometry, const DepthChartData &chart)
+void drawScale(QPainter &painter, PixelStrokes &strokes, const Geometry &geometry,
+               const DepthChartData &chart)
 {
     const QFont font(QStringLiteral("MS Shell Dlg 2"), 9, QFont::Bold);
     const double textOffset = QFontMetrics(font).height() * 0.4;
@@ -160,9 +205,9 @@ void drawScale(QPainter &painter, const Geometry &geometry, const DepthChartData
     painter.setFont(font);
     for (int mark = 0; mark < end; mark = static_cast<int>(mark + step)) {
         const double y = geometry.yOfMark(mark);
-        painter.setPen(pens().grid);
-        painter.drawLine(QPointF(geometry.width * 0.975, y), QPointF(geometry.width * 0.1, y));
-        painter.setPen(pens().label);
+        strokes.horizontalLine(geometry.width * 0.1, geometry.width * 0.975, y + geometry.top(),
+                               grid);
+        painter.setPen(Qt::black);
         painter.drawText(wholePixel(geometry.width * 0.01), wholePixel(y + textOffset),
                          QString::number(mark) + QLatin1Char(' ') + chart.unitSuffix);
     }
@@ -171,7 +216,7 @@ void drawScale(QPainter &painter, const Geometry &geometry, const DepthChartData
 void drawMaxDepth(QPainter &painter, const Geometry &geometry, const DepthChartData &chart)
 {
     const double y = geometry.y(chart.maxDepthLine);
-    painter.setPen(pens().maxDepth);
+    painter.setPen(dashedPen(Qt::darkBlue));
     painter.drawLine(QPointF(0.0, y), QPointF(geometry.width, y));
 }
 
@@ -195,18 +240,16 @@ void drawDepthChart(QImage &canvas, const DepthChartData &data)
     if (canvas.isNull()) {
         return;
     }
-    canvas.fill(Qt::white);
     const Geometry geometry(canvas.size(), data);
 
-    // All pixels are opaque. The many strokes are twice as fast on a format that knows it; text is
-    // smoothed by another rule there on some systems.
-    QImage opaque = viewOf(canvas, QImage::Format_RGB32);
-    drawSamples(opaque, geometry, data);
+    PixelStrokes strokes(canvas);
+    drawSamples(strokes, placedSamples(data, geometry, strokes), canvas);
 
+    // Text is smoothed by another rule on an image without transparency on some systems.
     QImage withText = viewOf(canvas, QImage::Format_ARGB32);
     QPainter painter(&withText);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(0.0, geometry.top());
-    drawScale(painter, geometry, data);
+    drawScale(painter, strokes, geometry, data);
     drawMaxDepth(painter, geometry, data);
 }

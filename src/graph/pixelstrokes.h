@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: 2026 The TAL-VERO Connect developers
+// SPDX-License-Identifier: MIT
+
+#ifndef PIXELSTROKES_H
+#define PIXELSTROKES_H
+
+#include <QRgb>
+#include <QtGlobal>
+
+class QImage;
+
+/// Draws the strokes of the strip chart straight into the pixels of an image: upright or lying, of
+/// one opaque colour, antialiased. Every pixel becomes what QPainter's antialiasing makes of the
+/// same stroke; a chart has thousands of them, and a painter spends most of its time preparing
+/// each.
+///
+/// All coordinates are the image's, in pixels, y downwards; what lies outside is cut off. The image
+/// is opaque, of the format RGB32 or ARGB32, with less than 32,767 pixels a side; it shares its
+/// pixels with no other and outlives this object.
+class PixelStrokes
+{
+public:
+    explicit PixelStrokes(QImage &canvas);
+
+    /// From here on only the rows from `begin` to before `end` are drawn on. A picture drawn band
+    /// by band finds the pixels that its strokes share still in the processor's cache.
+    void limitToRows(int begin, int end);
+
+    /// Makes these rows white.
+    void wipe();
+
+    /// Where a dot stands across the image. The two dots of one ping share it.
+    struct DotColumn
+    {
+        double centre;
+        double halfHeight;
+        double widthByHeight;
+    };
+
+    /// The column `distance` to the left of the image's right edge, for a chart that grows from
+    /// there: a point's stroke is a hair longer on its older side.
+    DotColumn dotColumn(double distance) const;
+
+    /// A point of a pen 3 px wide with a square cap.
+    void dot(const DotColumn &column, double y, QRgb colour);
+
+    /// A line of a pen 1 px wide with square caps, on the border between the pixel columns `x` - 1
+    /// and `x`. From a point to itself it is one pixel.
+    void verticalLine(int x, double y1, double y2, QRgb colour);
+
+    /// A line of the same pen from `x1` to the larger `x2`.
+    void horizontalLine(double x1, double x2, double y, QRgb colour);
+
+private:
+    void verticalRun(int x, int beginRow, int endRow, int share, QRgb colour);
+    void horizontalRun(int y, int beginColumn, int endColumn, unsigned coverage, QRgb colour);
+    QRgb *row(int y) { return pixels + y * stride; }
+    bool hasColumn(int x) const { return x >= 0 && x < width; }
+
+    QRgb *pixels;
+    qptrdiff stride; // in pixels
+    int width;
+    int height;
+    int rowsBegin = 0;
+    int rowsEnd;
+};
+
+#endif // PIXELSTROKES_H
