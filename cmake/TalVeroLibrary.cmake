@@ -2,8 +2,21 @@
 # Wrapped by hand, not by AUTOUIC, which would keep the old header for one more build after a form has
 # changed.
 function(talvero_form variable file)
-  qt5_wrap_ui(headers ${CMAKE_SOURCE_DIR}/src/forms/${file})
-  set(${variable} ${headers} PARENT_SCOPE)
+  get_filename_component(name ${file} NAME_WE)
+  set(form ${CMAKE_SOURCE_DIR}/src/forms/${file})
+  set(generated ${CMAKE_CURRENT_BINARY_DIR}/uic/ui_${name}.h) # its include guard follows this name
+  set(header ${CMAKE_CURRENT_BINARY_DIR}/ui_${name}.h)
+  set(reorder ${CMAKE_SOURCE_DIR}/cmake/StyleSheetsLast.cmake)
+  file(MAKE_DIRECTORY ${CMAKE_CURRENT_BINARY_DIR}/uic)
+  add_custom_command(
+    OUTPUT ${header}
+    COMMAND Qt5::uic -o ${generated} ${form}
+    COMMAND ${CMAKE_COMMAND} -D IN=${generated} -D OUT=${header} -P ${reorder}
+    DEPENDS ${form} ${reorder}
+    COMMENT "Generating ui_${name}.h"
+    VERBATIM)
+  set_source_files_properties(${header} PROPERTIES SKIP_AUTOGEN ON)
+  set(${variable} ${header} PARENT_SCOPE)
 endfunction()
 
 # talvero_library(NAME sources... LINK libraries...): a static library whose headers are included by
