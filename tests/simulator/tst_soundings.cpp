@@ -35,6 +35,23 @@ struct LevelBottom : ModelBench
     }
 };
 
+/// So many soundings of the level bottom in this format, with their line ends.
+QByteArray soundedText(int format, int soundings)
+{
+    static const QMap<int, QByteArray> texts{
+        {Odom, " et B 01000 01050\r\n"},
+        {NmeaDbt, "$SDDBT,32.81,f,10.00,M,5.47,F*39\r\n"},
+        {NmeaDbs, "$SDDBS,32.81,f,10.00,M,5.47,F*3E\r\n"},
+        {Orvando, "B 01000 01050 ,\r\n"},
+        {Deso25, "DA00010.00 m\r\nDB00010.50 m\r\n"},
+        {Kestrola, "01050T-94L\t01000T-95H\r\n"},
+        {SonarmiteOld, "0 10.00 12.4 78\r\n"},
+        {SonarmiteNew, "0 10.00 12.4 78\r\n"},
+        {SonarmiteDual, "0 10.00 10.50 78\r\n"},
+    };
+    return texts.value(format).repeated(soundings);
+}
+
 } // namespace
 
 class TestSoundings : public QObject
@@ -48,6 +65,8 @@ private slots:
     void missedPingsAreNotMadeUpFor();
     void followTheFormat_data();
     void followTheFormat();
+    void newFormatBeginsWithTheVeryNextSounding_data();
+    void newFormatBeginsWithTheVeryNextSounding();
     void draftAndIndexAreAdded();
     void depthBelowTransducerHasNoDraft();
     void wrongVelocityGivesWrongDepths();
@@ -117,6 +136,36 @@ void TestSoundings::followTheFormat()
     QCOMPARE(bench.ask("*a" + QByteArray::number(format) + "......"), QByteArray("OK\r\n"));
     bench.model.setSoundings(true);
     QTEST(bench.nextLine(), "line");
+}
+
+void TestSoundings::newFormatBeginsWithTheVeryNextSounding_data()
+{
+    QTest::addColumn<int>("from");
+    QTest::addColumn<int>("to");
+    for (int from = Odom; from <= SonarmiteDual; ++from) {
+        for (int to = Odom; to <= SonarmiteDual; ++to) {
+            QTest::addRow("from %s to %s", qPrintable(DepthFormats::names().at(from - 1)),
+                          qPrintable(DepthFormats::names().at(to - 1)))
+                << from << to;
+        }
+    }
+}
+
+/// Who has read the answer may choose another reader at once: nothing in the old format follows.
+void TestSoundings::newFormatBeginsWithTheVeryNextSounding()
+{
+    QFETCH(int, from);
+    QFETCH(int, to);
+    LevelBottom bench;
+    bench.model.settings().pings = 10;
+    bench.model.settings().format = from;
+    QByteArray heard = bench.listen(450);
+    bench.send("*a" + QByteArray::number(to) + "......");
+    heard += bench.listen(540); // soundings at 501 ms and so on, the last line is out by then
+    const int answer = heard.indexOf("OK\r\n");
+    QVERIFY2(answer >= 0, heard.constData());
+    QCOMPARE(heard.left(answer), soundedText(from, 5));
+    QCOMPARE(heard.mid(answer + 4), soundedText(to, 5));
 }
 
 void TestSoundings::draftAndIndexAreAdded()
