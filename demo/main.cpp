@@ -17,25 +17,50 @@ SounderOptions demoSounder()
 {
     SounderOptions options;
     options.rate = 9600;
+    options.seed =
+        1010; // a sea bed that soon comes to soft mud: the graph tells the channels apart
     return options;
 }
 
-int openWindow(const PtySounder &sounder, MainWindow &window)
+/// For the tour's other unit: one channel, and a format that carries no more.
+SounderOptions highOnlySounder()
 {
+    SounderOptions options = demoSounder();
+    options.fit = SounderFit::HighOnly;
+    options.seed = 2;
+    return options;
+}
+
+int reportMissingTerminal()
+{
+    QTextStream(stderr) << "The system gave no pseudo-terminal for the simulated sounder.\n";
+    return 1;
+}
+
+int openWindow(const PtySounder &sounder)
+{
+    MainWindow window([&sounder] { return systemSerialPorts() << sounder.portPath(); });
     QTextStream(stdout) << "A simulated sounder waits at " << sounder.portPath()
                         << ": choose that port and \"Auto\", then press Connect.\n";
     window.show();
     return QApplication::exec();
 }
 
-int playTour(PtySounder &sounder, MainWindow &window, const QString &folder)
+/// The tour needs a second unit, which nobody else has to choose from.
+int playTour(PtySounder &sounder, const QString &folder)
 {
+    PtySounder highOnly(highOnlySounder());
+    if (!highOnly.isOpen()) {
+        return reportMissingTerminal();
+    }
+    MainWindow window(
+        [&] { return systemSerialPorts() << sounder.portPath() << highOnly.portPath(); });
     const QDir pictures(folder);
     if (!pictures.mkpath(QStringLiteral("."))) {
         QTextStream(stderr) << "Could not make the folder " << folder << '\n';
         return 1;
     }
-    OperatorTour tour(window, sounder, pictures);
+    OperatorTour tour(window, sounder, highOnly, pictures);
     QObject::connect(&tour, &OperatorTour::finished, qApp, &QCoreApplication::exit);
     window.show();
     tour.start();
@@ -66,10 +91,7 @@ int main(int argc, char **argv)
 
     PtySounder sounder(demoSounder());
     if (!sounder.isOpen()) {
-        QTextStream(stderr) << "The system gave no pseudo-terminal for the simulated sounder.\n";
-        return 1;
+        return reportMissingTerminal();
     }
-    MainWindow window([&sounder] { return systemSerialPorts() << sounder.portPath(); });
-    return parser.isSet(tour) ? playTour(sounder, window, parser.value(tour))
-                              : openWindow(sounder, window);
+    return parser.isSet(tour) ? playTour(sounder, parser.value(tour)) : openWindow(sounder);
 }

@@ -37,13 +37,15 @@ QString fileName(int number, const QString &stepName)
 
 } // namespace
 
-OperatorTour::OperatorTour(MainWindow &mainWindow, SounderLine &line, const QDir &folder,
-                           QObject *parent)
+OperatorTour::OperatorTour(MainWindow &mainWindow, SounderLine &dual, SounderLine &highOnly,
+                           const QDir &folder, QObject *parent)
     : QObject(parent)
     , window(mainWindow)
-    , sounder(line)
+    , sounder(dual)
+    , singleChannel(highOnly)
     , pictures(folder)
 {
+    connect(&window, &MainWindow::gotDepths, this, [this] { ++soundings; });
     clock.setInterval(lookInterval);
     connect(&clock, &QTimer::timeout, this, &OperatorTour::watch);
     plan();
@@ -114,6 +116,18 @@ void OperatorTour::takePicture() const
 void OperatorTour::addChange(const QString &name, std::function<void()> act, const char *confirmed)
 {
     add(name, std::move(act), [this, confirmed] { return infoHolds(confirmed); });
+}
+
+void OperatorTour::addGraph(const QString &name)
+{
+    const auto open = [this] {
+        click("openGraph");
+        soundings = 0;
+    };
+    constexpr int someSoundings = 40;
+    add(
+        name, open, [this] { return soundings >= someSoundings; },
+        [this] { return popup("Depth Graph"); });
 }
 
 void OperatorTour::click(const QString &name) const

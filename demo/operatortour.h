@@ -25,9 +25,11 @@ class OperatorTour : public QObject
     Q_OBJECT
 
 public:
-    /// The pictures go to `folder`, which must exist.
-    OperatorTour(MainWindow &mainWindow, SounderLine &line, const QDir &folder,
-                 QObject *parent = nullptr);
+    /// Of `dual`, the operator changes the settings and looks at the depths; at the end he pulls it
+    /// out and connects `highOnly`. The ports of both must stand in the window's list. The pictures
+    /// go to `folder`, which must exist.
+    OperatorTour(MainWindow &mainWindow, SounderLine &dual, SounderLine &highOnly,
+                 const QDir &folder, QObject *parent = nullptr);
 
     /// Begins as soon as the event loop runs.
     void start();
@@ -54,6 +56,7 @@ private:
     void planLooking();
     void planFeet();
     void planLeaving();
+    void planSingleChannel();
 
     // ---- operatortour.cpp: how it is played
     void add(const QString &name, std::function<void()> act, std::function<bool()> isDone);
@@ -62,6 +65,9 @@ private:
 
     /// A step that ends when the info line holds these words.
     void addChange(const QString &name, std::function<void()> act, const char *confirmed);
+
+    /// A step that opens the depth graph and ends when some more soundings stand in it.
+    void addGraph(const QString &name);
 
     void begin();
     void watch();
@@ -83,10 +89,12 @@ private:
 
     MainWindow &window;
     SounderLine &sounder;
+    SounderLine &singleChannel;
     QDir pictures;
     QVector<Step> steps;
     int current = -1;
     int failures = 0;
+    int soundings = 0; ///< heard since the graph was opened
     QTimer clock;
     QElapsedTimer waiting;
 };

@@ -25,6 +25,7 @@ void OperatorTour::plan()
     planOutput();
     planFeet();
     planLeaving();
+    planSingleChannel();
 }
 
 void OperatorTour::planConnecting()
@@ -102,16 +103,17 @@ void OperatorTour::planLooking()
     add(
         "Help", [this] { click("commonSettingsInfo"); }, shown("Information"),
         pictureOf("Information"));
-    add(
-        "Depth graph", [this] { click("openGraph"); }, shown("Depth Graph"),
-        pictureOf("Depth Graph"));
+    addChange(
+        "A format with both depths", [this] { choose("formatComboBox", "ODOM"); },
+        "Output Format to ODOM ... Success");
+    addGraph("Depth graph");
 }
 
 void OperatorTour::planOutput()
 {
     addChange(
-        "Another output format", [this] { choose("formatComboBox", "ODOM"); },
-        "Output Format to ODOM ... Success");
+        "Another output format", [this] { choose("formatComboBox", "SONARMITE DUAL"); },
+        "Output Format to SONARMITE DUAL ... Success");
     addChange(
         "Store in the sounder", [this] { click("saveSettingsToDevice"); },
         "Sending Save Command to Device ... Success");
@@ -145,9 +147,10 @@ void OperatorTour::planFeet()
     addChange(
         "Change the draft in feet", [this] { click("highDraftUp"); },
         "High Frequency Draft to 1.41 ft ... Success");
-    add(
-        "Depth graph in feet", [this] { click("openGraph"); }, [] { return true; },
-        [this] { return popup("Depth Graph"); });
+    addChange(
+        "Both depths in feet", [this] { choose("formatComboBox", "DESO 25"); },
+        "Output Format to DESO 25 ... Success");
+    addGraph("Depth graph in feet");
 }
 
 void OperatorTour::planLeaving()
@@ -158,4 +161,31 @@ void OperatorTour::planLeaving()
         "Connect again", [this] { click("connectToDevice"); }, [this] { return isConnected(); });
     addChange(
         "The sounder is pulled away", [this] { sounder.hangUp(); }, "Lost Connection To Device");
+}
+
+void OperatorTour::planSingleChannel()
+{
+    add(
+        "A unit with the high channel alone",
+        [this] {
+            click("metricRadio");
+            choose("portComboBox", singleChannel.portPath());
+            click("connectToDevice");
+        },
+        [this] {
+            return isConnected() &&
+                   find<QLabel>("label_34")->text().contains("High Frequency Only");
+        });
+    addGraph("Depth graph of the high channel");
+    add(
+        "Disconnect from it", [this] { click("connectToDevice"); },
+        [this] { return !isConnected(); });
+    add(
+        "Connected to it in feet",
+        [this] {
+            click("imperialRadio");
+            click("connectToDevice");
+        },
+        [this] { return isConnected(); });
+    addGraph("Depth graph of the high channel in feet");
 }

@@ -7,6 +7,22 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+namespace {
+
+bool holdsColour(const QImage &picture, const QRect &part, QRgb colour)
+{
+    for (int y = part.top(); y <= part.bottom(); ++y) {
+        for (int x = part.left(); x <= part.right(); ++x) {
+            if (picture.pixel(x, y) == colour) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+} // namespace
+
 /// Plays the whole tour as `scripts/run` does on a machine without a display.
 class TestOperatorTour : public QObject
 {
@@ -18,6 +34,8 @@ private slots:
     void infoLineSaidWhatTheOperatorExpects_data();
     void infoLineSaidWhatTheOperatorExpects();
     void everyStepLeftAPicture();
+    void graphShowsTheChannelsOfTheUnit_data();
+    void graphShowsTheChannelsOfTheUnit();
     void folderThatCannotBeMadeIsReported();
 
 private:
@@ -58,6 +76,7 @@ void TestOperatorTour::infoLineSaidWhatTheOperatorExpects_data()
         "Setting Maximum Depth to 80 m ... not applied. Reduce pings per second");
     row("Disconnect", "(the info line is empty)");
     row("The sounder is pulled away", "Lost Connection To Device");
+    row("A unit with the high channel alone", "Connected to TAL-VERO");
 }
 
 void TestOperatorTour::infoLineSaidWhatTheOperatorExpects()
@@ -78,6 +97,29 @@ void TestOperatorTour::everyStepLeftAPicture()
     for (const QString &name : names) {
         QVERIFY2(!QImage(pictures.filePath(name)).isNull(), qPrintable(name));
     }
+}
+
+void TestOperatorTour::graphShowsTheChannelsOfTheUnit_data()
+{
+    QTest::addColumn<bool>("hasLow");
+    QTest::newRow("depth-graph.png") << true;
+    QTest::newRow("depth-graph-in-feet.png") << true;
+    QTest::newRow("depth-graph-of-the-high-channel.png") << false;
+    QTest::newRow("depth-graph-of-the-high-channel-in-feet.png") << false;
+}
+
+void TestOperatorTour::graphShowsTheChannelsOfTheUnit()
+{
+    QFETCH(bool, hasLow);
+    const QDir pictures(folder.filePath("pictures"));
+    const QStringList names =
+        pictures.entryList({QString("[0-9][0-9]-") + QTest::currentDataTag()});
+    QCOMPARE(names.size(), 1);
+    const QImage picture(pictures.filePath(names.first()));
+    const QRect newest(picture.width() - 30, 60, 30, picture.height() - 60);
+    QCOMPARE(holdsColour(picture, newest, qRgb(255, 0, 0)), hasLow);
+    // The low channel's dots may lie on the high one's.
+    QVERIFY2(hasLow || holdsColour(picture, newest, qRgb(0, 0, 255)), "no dots");
 }
 
 void TestOperatorTour::folderThatCannotBeMadeIsReported()
