@@ -49,6 +49,8 @@ private slots:
     void secondSentenceOfAPairBringsBothDepths();
     void pairStaysCompleteWhenOneDepthChanges();
     void lowSentenceFirstLeavesTheHighLabelEmpty();
+    void pairIsKeptWhileOtherSentencesCome();
+    void unreadableDepthOfAPairIsKeptAsZero();
     void aNegativeHighDepthEmptiesTheLowLabelOnly();
     void singleLowSentenceIsLoggedWithItsLength();
     void graphWindowShowsThePair();
@@ -279,6 +281,29 @@ void TestDepthLabels::lowSentenceFirstLeavesTheHighLabelEmpty()
     QVERIFY(bench->tell("DB00001.31 m"));
     QCOMPARE(bench->takeTold(), (Pairs{{none, 1.31F}}));
     QCOMPARE(bench->labels(), QStringList({"", "LF Depth: 1.31"}));
+}
+
+void TestDepthLabels::pairIsKeptWhileOtherSentencesCome()
+{
+    QVERIFY(bench->connectAs());
+    QVERIFY(bench->tell("DA00002.46 m"));
+    QVERIFY(bench->tell(odomPair));
+    QVERIFY(bench->tell("?"));
+    bench->takeTold();
+    QVERIFY(bench->tell("DB00001.31 m"));
+    QCOMPARE(bench->takeTold(), (Pairs{{2.46F, 1.31F}}));
+    QCOMPARE(bench->labels(), QStringList({"HF Depth: 2.46", "LF Depth: 1.31"}));
+}
+
+void TestDepthLabels::unreadableDepthOfAPairIsKeptAsZero()
+{
+    QVERIFY(bench->connectAs());
+    QVERIFY(bench->tell("DA00001.23 m"));
+    QVERIFY(bench->tell("DA-------- m"));
+    bench->takeTold();
+    QVERIFY(bench->tell("DB00001.31 m"));
+    QCOMPARE(bench->takeTold(), (Pairs{{0.0F, 1.31F}}));
+    QCOMPARE(bench->labels(), QStringList({"HF Depth: 0.00", "LF Depth: 1.31"}));
 }
 
 void TestDepthLabels::aNegativeHighDepthEmptiesTheLowLabelOnly()
