@@ -7,8 +7,6 @@
 
 #include <memory>
 
-Q_DECLARE_METATYPE(SounderFit)
-
 namespace {
 
 using Bottom = SurveyBench::Bottom;
@@ -51,6 +49,21 @@ Sent sent(const Bottom &bottom, const QString &format)
                    SurveyBench::lowIndexMm + (isBelowTransducer ? 0 : SurveyBench::lowDraftMm))};
 }
 
+/// A unit, and which of its channels the operator has left on.
+struct Unit
+{
+    const char *name;
+    SounderFit fit;
+    bool highOn;
+    bool lowOn;
+};
+
+constexpr Unit dual{"dual unit", SounderFit::Dual, true, true};
+constexpr Unit dualLowOff{"dual unit, low off", SounderFit::Dual, true, false};
+constexpr Unit dualHighOff{"dual unit, high off", SounderFit::Dual, false, true};
+constexpr Unit highOnly{"high only unit", SounderFit::HighOnly, true, false};
+constexpr Unit lowOnly{"low only unit", SounderFit::LowOnly, false, true};
+
 /// What the operator reads of a format. "H" and "L" stand for the depths that were sent.
 struct Reading
 {
@@ -63,7 +76,7 @@ struct Reading
 constexpr char transducer[] = "(Depth Below Transducer)";
 
 /// A format with room for one depth carries the high channel.
-constexpr Reading ofDualUnit[] = {
+constexpr Reading ofBothChannels[] = {
     {"ODOM", "HF Depth: H", "LF Depth: L", "HL"},
     {"NMEA DBT", "HF Depth: H", transducer, "H"},
     {"NMEA DBS", "HF Depth: H", "", "H"},
@@ -75,7 +88,8 @@ constexpr Reading ofDualUnit[] = {
     {"SONARMITE DUAL", "HF Depth: H", "LF Depth: L", "HL"},
 };
 
-constexpr Reading ofHighUnit[] = {
+/// A channel that is off reads like one that the unit lacks.
+constexpr Reading ofHighChannel[] = {
     {"ODOM", "HF Depth: H", "", "H"},           {"NMEA DBT", "HF Depth: H", transducer, "H"},
     {"NMEA DBS", "HF Depth: H", "", "H"},       {"ORVANDO", "HF Depth: H", "", "H"},
     {"DESO 25", "HF Depth: H", "", "H"},        {"KESTROLA", "HF Depth: H", "", "H"},
@@ -84,8 +98,8 @@ constexpr Reading ofHighUnit[] = {
 };
 
 /// An NMEA depth always stands in the first label, whichever channel it is of. The one depth of
-/// SONARMITE OLD and NEW counts as the high channel's, which this unit lacks: it is not shown.
-constexpr Reading ofLowUnit[] = {
+/// SONARMITE OLD and NEW counts as the high channel's, which is not there: it is not shown.
+constexpr Reading ofLowChannel[] = {
     {"ODOM", "", "LF Depth: L", "L"},
     {"NMEA DBT", "LF Depth: L", transducer, "L"},
     {"NMEA DBS", "LF Depth: L", "", "L"},
@@ -99,6 +113,7 @@ constexpr Reading ofLowUnit[] = {
 
 } // namespace
 
+Q_DECLARE_METATYPE(Unit)
 Q_DECLARE_METATYPE(Reading)
 
 /// The depths of a survey in every output format, from the sounder's transducers to what the
@@ -115,6 +130,7 @@ private slots:
 
 private:
     void useUnit(SounderFit fit);
+    bool hasSwitched(const QString &channel, bool on);
     int expectSamples(const Reading &reading, const QList<Sent> &pings);
 
     std::unique_ptr<SurveyBench> bench; // serves all rows of its fit
@@ -124,29 +140,34 @@ private:
 
 void TestOutputFormats::depthsSentAreTheDepthsRead_data()
 {
-    QTest::addColumn<SounderFit>("fit");
+    QTest::addColumn<Unit>("unit");
     QTest::addColumn<bool>("imperial");
     QTest::addColumn<Reading>("reading");
-    const auto rows = [](SounderFit fit, const char *unit, const auto &readings) {
-        for (const bool imperial : {false, true}) {
-            for (const Reading &reading : readings) {
-                QTest::addRow("%s unit, %s, %s", unit, reading.format, imperial ? "ft" : "m")
-                    << fit << imperial << reading;
-            }
+    const auto rows = [](const Unit &unit, bool imperial, const auto &readings) {
+        for (const Reading &reading : readings) {
+            QTest::addRow("%s, %s, %s", unit.name, reading.format, imperial ? "ft" : "m")
+                << unit << imperial << reading;
         }
     };
-    rows(SounderFit::Dual, "dual", ofDualUnit);
-    rows(SounderFit::HighOnly, "high only", ofHighUnit);
-    rows(SounderFit::LowOnly, "low only", ofLowUnit);
+    rows(dual, false, ofBothChannels);
+    rows(dualLowOff, false, ofHighChannel);
+    rows(dualHighOff, false, ofLowChannel);
+    rows(dual, true, ofBothChannels);
+    rows(highOnly, false, ofHighChannel);
+    rows(highOnly, true, ofHighChannel);
+    rows(lowOnly, false, ofLowChannel);
+    rows(lowOnly, true, ofLowChannel);
 }
 
 void TestOutputFormats::depthsSentAreTheDepthsRead()
 {
-    QFETCH(SounderFit, fit);
+    QFETCH(Unit, unit);
     QFETCH(bool, imperial);
     QFETCH(Reading, reading);
-    useUnit(fit);
+    useUnit(unit.fit);
     bench->showUnit(imperial);
+    QVERIFY2(hasSwitched("high", unit.highOn) && hasSwitched("low", unit.lowOn),
+             "the sounder did not switch its channels");
     QVERIFY2(bench->chooseFormat(reading.format), "the sounder did not take the format");
 
     const QList<Bottom> bottoms = bottomsFor(reading.format);
@@ -187,6 +208,20 @@ void TestOutputFormats::useUnit(SounderFit fit)
         benchFit = fit;
         lastLow = none;
     }
+}
+
+/// Has the operator press Enable or Disable of the channel ("high" or "low") if need be.
+bool TestOutputFormats::hasSwitched(const QString &channel, bool on)
+{
+    const auto isOn = [this, &channel] {
+        return bench->device().settings().isOn(channel == "high" ? SounderChannel::High
+                                                                 : SounderChannel::Low);
+    };
+    if (isOn() != on) {
+        bench->openTab(channel);
+        bench->click((on ? "enable" : "disable") + QString(channel == "high" ? "HF" : "LF"));
+    }
+    return QTest::qWaitFor([=] { return isOn() == on; });
 }
 
 /// Enters what the graph must hold after these pings. Returns how often it is told.
