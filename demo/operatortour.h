@@ -25,9 +25,9 @@ class OperatorTour : public QObject
     Q_OBJECT
 
 public:
-    /// Of `dual`, the operator changes the settings and looks at the depths; at the end he pulls it
-    /// out and connects `highOnly`. The ports of both must stand in the window's list. The pictures
-    /// go to `folder`, which must exist.
+    /// Of `dual`, the operator changes the settings and looks at the depths; at the end it is
+    /// pulled out and `highOnly` connected. The ports of both must stand in the window's list. The
+    /// pictures go to `folder`, which must exist.
     OperatorTour(MainWindow &mainWindow, SounderLine &dual, SounderLine &highOnly,
                  const QDir &folder, QObject *parent = nullptr);
 
