@@ -3,6 +3,7 @@
 
 #include "appearance.h"
 
+#include "focusring.h"
 #include "myproxystyle.h"
 
 #include <QApplication>
@@ -28,4 +29,7 @@ void giveProgramStyle()
     QApplication::setStyle(new MyProxyStyle(QStringLiteral("fusion")));
     // The forms are drawn for a light window: a dark desktop theme must not bring white text to it.
     QApplication::setPalette(QApplication::style()->standardPalette());
+    if (qApp->findChild<FocusRing *>() == nullptr) {
+        new FocusRing(qApp);
+    }
 }

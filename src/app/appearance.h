@@ -8,8 +8,8 @@
 /// made: Qt ignores these attributes afterwards.
 void prepareForHighDensity();
 
-/// Installs the program's style. To be called once, after the application object is made and before
-/// the first window.
+/// Installs the program's style and the ring around what has the keyboard. To be called once, after
+/// the application object is made and before the first window.
 void giveProgramStyle();
 
 #endif // APPEARANCE_H
