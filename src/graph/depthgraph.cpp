@@ -9,6 +9,8 @@
 #include "resources.h"
 #include "units.h"
 
+#include <QKeyEvent>
+
 #include <algorithm>
 #include <chrono>
 #include <cmath>
@@ -160,6 +162,15 @@ void depthGraph::drawPic()
     nextCanvas = 1 - nextCanvas;
     drawnChart = chart;
     drawnPicture = picture.cacheKey();
+}
+
+void depthGraph::keyPressEvent(QKeyEvent *event)
+{
+    if (event->matches(QKeySequence::Cancel)) {
+        close();
+        return;
+    }
+    QWidget::keyPressEvent(event);
 }
 
 bool depthGraph::pictureIsUpToDate() const

@@ -53,6 +53,10 @@ public slots:
     /// Draws the chart if the window is visible and the chart has changed. Called every 50 ms.
     void drawPic();
 
+protected:
+    /// Escape closes the window.
+    void keyPressEvent(QKeyEvent *event) override;
+
 private:
     void showDepth(QLabel *label, const QString &channel, float depth);
     bool pictureIsUpToDate() const;

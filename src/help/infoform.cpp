@@ -8,6 +8,7 @@
 #include "resources.h"
 
 #include <QDebug>
+#include <QKeyEvent>
 
 InfoForm::InfoForm(QWidget *parent)
     : QWidget(parent)
@@ -48,6 +49,21 @@ void InfoForm::showTopic(const QString &title)
         resize(sizeHint());
     }
     qDebug() << "HDHHDLKJDSH:SDHLF";
+}
+
+void InfoForm::keyPressEvent(QKeyEvent *event)
+{
+    if (event->matches(QKeySequence::Cancel)) {
+        close();
+        return;
+    }
+    QWidget::keyPressEvent(event);
+}
+
+void InfoForm::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    ui->pushButton->setFocus();
 }
 
 void InfoForm::on_pushButton_clicked() { close(); }

@@ -31,6 +31,13 @@ public:
     /// caller.
     void showTopic(const QString &title);
 
+protected:
+    /// Escape closes the window as its button does.
+    void keyPressEvent(QKeyEvent *event) override;
+
+    /// The button has the focus whenever the window opens.
+    void showEvent(QShowEvent *event) override;
+
 private slots:
     void on_pushButton_clicked();
 
