@@ -5,6 +5,7 @@
 
 #include "debuglog.h"
 #include "firmwareupdater.h"
+#include "keyboardaccess.h"
 #include "pausededits.h"
 #include "resources.h"
 #include "ui_mainwindow.h"
@@ -61,6 +62,7 @@ MainWindow::MainWindow(PortLister ports, QWidget *parent)
     ui->h->tabBar()->setCursor(Qt::PointingHandCursor);
     styleLists();
     new WheelGuard(this);
+    prepareKeyboardAccess(this);
     ui->label_33->setText("TAL-VERO Connect Version: " + version);
     settings.setDeviceType(QStringLiteral("TalVeroNew"));
     setConnectButton(false);
