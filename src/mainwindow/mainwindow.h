@@ -261,6 +261,7 @@ private:
     // ---- mainwindow_controls.cpp: what can be used when
     void updateControls();
     void updateChannelControls(Channel &channel);
+    void placeLostFocus();
     void lockForFormat();
     void setChildrenDisabled(QWidget *widget, bool disabled);
 

@@ -5,6 +5,8 @@
 
 #include "ui_mainwindow.h"
 
+#include <QPointer>
+
 void MainWindow::setChildrenDisabled(QWidget *widget, bool disabled)
 {
     const QList<QWidget *> descendants = widget->findChildren<QWidget *>();
@@ -15,6 +17,7 @@ void MainWindow::setChildrenDisabled(QWidget *widget, bool disabled)
 
 void MainWindow::updateControls()
 {
+    const QPointer<QWidget> focused = focusWidget();
     QWidget *const connectionControls[] = {ui->portComboBox, ui->baudComboBox, ui->imperialRadio,
                                            ui->metricRadio};
     for (QWidget *control : connectionControls) {
@@ -38,6 +41,20 @@ void MainWindow::updateControls()
     ui->label_30->setEnabled(false);
     if (!offline) {
         lockForFormat();
+    }
+    if (focused != nullptr && !focused->isEnabled()) {
+        placeLostFocus();
+    }
+}
+
+/// Qt drops the focus of a control that is switched off with all that is around it: the operator's
+/// next keys would go nowhere.
+void MainWindow::placeLostFocus()
+{
+    if (offline) {
+        ui->connectToDevice->setFocus(); // what is done next
+    } else if (focusWidget() == nullptr) {
+        ui->h->setFocus();
     }
 }
 
