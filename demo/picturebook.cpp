@@ -1,0 +1,234 @@
+// SPDX-FileCopyrightText: 2026 The TAL-VERO Connect developers
+// SPDX-License-Identifier: MIT
+
+#include "picturebook.h"
+
+#include "picturedesk.h"
+
+#include <QApplication>
+#include <QPixmap>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTextStream>
+#include <QWindow>
+#include <QtTest>
+
+#include <functional>
+
+namespace {
+
+constexpr int highTab = 0;
+constexpr int lowTab = 1;
+
+/// The size in which the window opens, the one that the form is drawn for, a small laptop's, and a
+/// maximised window's.
+const QSize sizes[] = {{1136, 800}, {1020, 947}, {800, 600}, {1920, 1080}};
+
+enum Extent { StartSize, EverySize, OwnSize };
+
+struct Scene
+{
+    const char *name;
+    std::function<bool(PictureDesk &)> arrange; ///< false if the state was waited for in vain
+    Extent extent = StartSize;
+    SounderFit fit = SounderFit::Dual;
+    SounderFaults faults = {};
+    const char *title = nullptr; ///< of the window to show; the main window if null
+};
+
+bool offline(PictureDesk & /*desk*/) { return true; }
+
+bool searching(PictureDesk &desk)
+{
+    desk.pressConnect("Auto");
+    return desk.infoComesToHold("Trying");
+}
+
+bool connected(PictureDesk &desk) { return desk.connectToSounder(); }
+
+bool sounding(PictureDesk &desk)
+{
+    return desk.connectToSounder() && desk.textComes("highDepthLabel") &&
+           desk.textComes("lowDepthLabel");
+}
+
+bool lowFrequency(PictureDesk &desk)
+{
+    const bool came = sounding(desk);
+    desk.showTab(lowTab);
+    return came;
+}
+
+bool manual(PictureDesk &desk)
+{
+    const bool came = sounding(desk);
+    desk.click("highManualRadio");
+    return came && desk.infoComesToHold("Success");
+}
+
+bool channelOff(PictureDesk &desk)
+{
+    const bool came = sounding(desk);
+    desk.click("disableHF");
+    return came && desk.infoComesToHold("Success");
+}
+
+bool imperial(PictureDesk &desk)
+{
+    desk.click("imperialRadio");
+    return sounding(desk);
+}
+
+bool kestrola(PictureDesk &desk)
+{
+    const bool came = sounding(desk);
+    desk.choose("formatComboBox", "KESTROLA");
+    return came && desk.infoComesToHold("Success");
+}
+
+bool refused(PictureDesk &desk)
+{
+    const bool came = sounding(desk);
+    desk.click("highDraftUp");
+    return came && desk.infoComesToHold("Received Error");
+}
+
+bool footerHidden(PictureDesk &desk)
+{
+    desk.click("hamburgerButton");
+    return true;
+}
+
+bool graph(PictureDesk &desk)
+{
+    const bool came = desk.connectToSounder();
+    desk.openGraphWithHistory();
+    return came && PictureDesk::popup("Depth Graph") != nullptr;
+}
+
+bool graphInFeet(PictureDesk &desk)
+{
+    desk.click("imperialRadio");
+    return graph(desk);
+}
+
+std::function<bool(PictureDesk &)> help(const char *button)
+{
+    return [button](PictureDesk &desk) {
+        const bool came = desk.connectToSounder();
+        desk.click(button);
+        return came && PictureDesk::popup("Information") != nullptr;
+    };
+}
+
+SounderFaults refusing()
+{
+    SounderFaults faults;
+    faults.refuse = 1;
+    return faults;
+}
+
+std::vector<Scene> allScenes()
+{
+    return {
+        {"offline", offline, EverySize},
+        {"dual", sounding, EverySize},
+        {"searching", searching},
+        {"high-only", connected, StartSize, SounderFit::HighOnly},
+        {"low-only", connected, StartSize, SounderFit::LowOnly},
+        {"low-tab", lowFrequency},
+        {"manual", manual},
+        {"channel-off", channelOff},
+        {"imperial", imperial},
+        {"kestrola", kestrola},
+        {"refused", refused, StartSize, SounderFit::Dual, refusing()},
+        {"footer-hidden", footerHidden},
+        {"graph-metres", graph, OwnSize, SounderFit::Dual, {}, "Depth Graph"},
+        {"graph-feet", graphInFeet, OwnSize, SounderFit::Dual, {}, "Depth Graph"},
+        {"help-short", help("highEnableInfo"), OwnSize, SounderFit::Dual, {}, "Information"},
+        {"help-long", help("commonSettingsInfo"), OwnSize, SounderFit::Dual, {}, "Information"},
+    };
+}
+
+QString scaleWord() { return QString::number(qApp->devicePixelRatio(), 'g', 3) + 'x'; }
+
+bool save(QWidget *shown, const QDir &folder, const QString &name)
+{
+    const QString file = QString("%1-%2x%3-%4.png")
+                             .arg(name)
+                             .arg(shown->width())
+                             .arg(shown->height())
+                             .arg(scaleWord());
+    const bool saved = shown->grab().save(folder.filePath(file));
+    QTextStream(stdout) << (saved ? "" : "Could not write ") << file << '\n';
+    return saved;
+}
+
+void giveSize(QWidget &window, QSize size)
+{
+    window.resize(size);
+    if (!QTest::qWaitFor([&window, size] { return window.windowHandle()->size() == size; })) {
+        QTextStream(stderr) << "The window does not become " << size.width() << " wide\n";
+    }
+    QCoreApplication::sendPostedEvents();
+    QCoreApplication::processEvents();
+}
+
+/// A window that scrolls is shown at both its ends.
+bool takeWindow(PictureDesk &desk, QSize size, const QDir &folder, const QString &name)
+{
+    giveSize(desk.mainWindow(), size);
+    QScrollBar *const bar =
+        desk.mainWindow().findChild<QScrollArea *>("scrollArea")->verticalScrollBar();
+    bar->setValue(bar->minimum());
+    bool taken = save(&desk.mainWindow(), folder, name);
+    if (bar->maximum() > bar->minimum()) {
+        bar->setValue(bar->maximum());
+        taken = save(&desk.mainWindow(), folder, name + "-end") && taken;
+    }
+    return taken;
+}
+
+SounderOptions optionsFor(const Scene &scene)
+{
+    SounderOptions options;
+    options.rate = 9600;
+    options.fit = scene.fit;
+    options.faults = scene.faults;
+    options.format = Odom; // it carries both depths
+    return options;
+}
+
+bool take(const Scene &scene, const QDir &folder, PictureChoice choice)
+{
+    PictureDesk desk(optionsFor(scene));
+    desk.showTab(highTab);
+    bool good = scene.arrange(desk);
+    if (!good) {
+        QTextStream(stderr) << scene.name << ": waited in vain\n";
+    }
+    if (scene.extent == OwnSize) {
+        QCoreApplication::processEvents();
+        return good && save(PictureDesk::popup(scene.title), folder, scene.name);
+    }
+    const bool everySize = scene.extent == EverySize || choice == PictureChoice::All;
+    for (const QSize size : sizes) {
+        if (everySize || size == sizes[0]) {
+            good = takeWindow(desk, size, folder, scene.name) && good;
+        }
+    }
+    return good;
+}
+
+} // namespace
+
+int takePictures(const QDir &folder, PictureChoice choice)
+{
+    int failures = 0;
+    for (const Scene &scene : allScenes()) {
+        if (choice != PictureChoice::Dense || scene.extent != StartSize) {
+            failures += take(scene, folder, choice) ? 0 : 1;
+        }
+    }
+    return failures;
+}

@@ -1,0 +1,111 @@
+// SPDX-FileCopyrightText: 2026 The TAL-VERO Connect developers
+// SPDX-License-Identifier: MIT
+
+#include "picturedesk.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QTabWidget>
+#include <QtTest>
+
+namespace {
+
+constexpr int patienceMs = 20000;
+
+/// What the graph is given for a depth that the sounder did not find.
+constexpr float noDepth = -1.0F;
+
+} // namespace
+
+PictureDesk::PictureDesk(const SounderOptions &options)
+    : sounder(options)
+    , seabed(options.seed)
+    , window([this] { return QStringList(sounder.portPath()); })
+{
+    window.show();
+    if (!sounder.isOpen() || !QTest::qWaitForWindowExposed(&window)) {
+        qFatal("No pseudo-terminal, or no window");
+    }
+}
+
+template <typename Widget>
+Widget *PictureDesk::find(const char *name)
+{
+    auto *const widget = window.findChild<Widget *>(QLatin1String(name));
+    if (widget == nullptr) {
+        qFatal("The window has no %s", name);
+    }
+    return widget;
+}
+
+void PictureDesk::pressConnect(const char *rate)
+{
+    choose("portComboBox", qPrintable(sounder.portPath()));
+    choose("baudComboBox", rate);
+    click("connectToDevice");
+}
+
+bool PictureDesk::connectToSounder()
+{
+    pressConnect();
+    const auto *temperature = find<QLabel>("temperatureLabel");
+    // The temperature is the last that a fresh connection asks for.
+    return QTest::qWaitFor([temperature] { return temperature->text().contains("Temperature"); },
+                           patienceMs);
+}
+
+void PictureDesk::click(const char *name)
+{
+    auto *const widget = find<QWidget>(name);
+    constexpr int insideIndicator = 12; // a radio button answers at its left end
+    QTest::mouseClick(widget, Qt::LeftButton, {}, QPoint(insideIndicator, widget->height() / 2));
+    window.setFocus(); // no picture depends on what was pressed last
+}
+
+void PictureDesk::choose(const char *list, const char *entry)
+{
+    auto *const box = find<QComboBox>(list);
+    const int index = box->findText(entry);
+    if (index < 0) {
+        qFatal("%s does not offer %s", list, entry);
+    }
+    box->setCurrentIndex(index);
+}
+
+void PictureDesk::showTab(int index) { find<QTabWidget>("h")->setCurrentIndex(index); }
+
+void PictureDesk::openGraphWithHistory()
+{
+    constexpr int soundings = 760;
+    constexpr double pingsPerSecond = 10;
+    for (int i = 0; i < soundings; ++i) {
+        const DepthPair depths = seabed.depthsAt(i / pingsPerSecond);
+        emit window.gotDepths(static_cast<float>(depths.high.value_or(noDepth)),
+                              static_cast<float>(depths.low.value_or(noDepth)));
+    }
+    click("openGraph");
+}
+
+bool PictureDesk::infoComesToHold(const char *words)
+{
+    const auto *info = find<QLabel>("infoLabel");
+    return QTest::qWaitFor([info, words] { return info->text().contains(words); }, patienceMs);
+}
+
+bool PictureDesk::textComes(const char *label)
+{
+    const auto *text = find<QLabel>(label);
+    return QTest::qWaitFor([text] { return !text->text().isEmpty(); }, patienceMs);
+}
+
+QWidget *PictureDesk::popup(const char *title)
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget *candidate : windows) {
+        if (candidate->isVisible() && candidate->windowTitle() == title) {
+            return candidate;
+        }
+    }
+    return nullptr;
+}

@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 The TAL-VERO Connect developers
+// SPDX-License-Identifier: MIT
+
+#ifndef PICTUREDESK_H
+#define PICTUREDESK_H
+
+#include "mainwindow.h"
+#include "ptysounder.h"
+
+/// The program's window beside a simulated sounder, set up for one picture. Every request that
+/// waits answers whether what it waited for has come.
+class PictureDesk
+{
+public:
+    explicit PictureDesk(const SounderOptions &options);
+
+    MainWindow &mainWindow() { return window; }
+
+    /// Chooses the sounder's port and this rate and presses Connect.
+    void pressConnect(const char *rate = "9600");
+
+    /// Connects, and waits until the window has everything that the sounder tells.
+    bool connectToSounder();
+
+    void click(const char *name);
+    void choose(const char *list, const char *entry);
+    void showTab(int index);
+
+    /// Opens the graph with as many soundings as it holds; for a live one an operator would have to
+    /// wait for minutes.
+    void openGraphWithHistory();
+
+    bool infoComesToHold(const char *words);
+    bool textComes(const char *label);
+
+    /// The visible window of this title, null if there is none.
+    static QWidget *popup(const char *title);
+
+private:
+    template <typename Widget>
+    Widget *find(const char *name);
+
+    PtySounder sounder;
+    Seabed seabed;
+    MainWindow window;
+};
+
+#endif // PICTUREDESK_H
