@@ -99,12 +99,7 @@ bool footerHidden(PictureDesk &desk)
     return true;
 }
 
-bool graph(PictureDesk &desk)
-{
-    const bool came = desk.connectToSounder();
-    desk.openGraphWithHistory();
-    return came && PictureDesk::popup("Depth Graph") != nullptr;
-}
+bool graph(PictureDesk &desk) { return desk.connectToSounder() && desk.openGraphWithHistory(); }
 
 bool graphInFeet(PictureDesk &desk)
 {

@@ -75,7 +75,7 @@ void PictureDesk::choose(const char *list, const char *entry)
 
 void PictureDesk::showTab(int index) { find<QTabWidget>("h")->setCurrentIndex(index); }
 
-void PictureDesk::openGraphWithHistory()
+bool PictureDesk::openGraphWithHistory()
 {
     constexpr int soundings = 760;
     constexpr double pingsPerSecond = 10;
@@ -85,6 +85,11 @@ void PictureDesk::openGraphWithHistory()
                               static_cast<float>(depths.low.value_or(noDepth)));
     }
     click("openGraph");
+    const QWidget *graph = popup("Depth Graph");
+    // The chart is drawn when its timer comes round, and the colour keys with it.
+    const auto *key = graph == nullptr ? nullptr : graph->findChild<QLabel *>("depthKeyHF");
+    return QTest::qWaitFor(
+        [key] { return key != nullptr && !key->pixmap(Qt::ReturnByValue).isNull(); }, patienceMs);
 }
 
 bool PictureDesk::infoComesToHold(const char *words)

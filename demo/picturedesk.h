@@ -27,8 +27,8 @@ public:
     void showTab(int index);
 
     /// Opens the graph with as many soundings as it holds; for a live one an operator would have to
-    /// wait for minutes.
-    void openGraphWithHistory();
+    /// wait for minutes. Answers whether the chart has been drawn.
+    bool openGraphWithHistory();
 
     bool infoComesToHold(const char *words);
     bool textComes(const char *label);
