@@ -6,6 +6,7 @@
 
 #include "helptopics.h"
 #include "resources.h"
+#include "sharplogo.h"
 
 #include <QDebug>
 #include <QKeyEvent>
@@ -22,6 +23,7 @@ InfoForm::InfoForm(QWidget *parent)
 {
     useTalVeroResources();
     ui->setupUi(this);
+    showSharp(ui->footerLabel, ":/resourcefiles/images/brimsett-logo-footer.png");
     addTopics();
     ui->text->setWordWrap(true);
 }

@@ -8,6 +8,7 @@
 #include "keyboardaccess.h"
 #include "pausededits.h"
 #include "resources.h"
+#include "sharplogo.h"
 #include "ui_mainwindow.h"
 #include "wheelguard.h"
 
@@ -55,6 +56,7 @@ MainWindow::MainWindow(PortLister ports, QWidget *parent)
 {
     useTalVeroResources();
     ui->setupUi(this);
+    showSharp(ui->headerLabel, ":/resourcefiles/images/brimsett-logo-header.png");
     high = channelOnForm(*this, "high", "HF", &highModeLocked, &highDisabled);
     low = channelOnForm(*this, "low", "LF", &lowModeLocked, &lowDisabled);
     resize(normalSize);
