@@ -7,6 +7,7 @@
 #include "myproxystyle.h"
 
 #include <QApplication>
+#include <QFont>
 #include <QStyle>
 
 void prepareForHighDensity()
@@ -24,6 +25,20 @@ void prepareForHighDensity()
 #endif
 }
 
+namespace {
+
+/// The font that the forms name for the depths stands for the system's own on Windows and is known
+/// nowhere else, where it must not become whatever font comes first.
+void replaceWindowsFont()
+{
+#ifndef Q_OS_WIN
+    QFont::insertSubstitutions(QStringLiteral("MS Shell Dlg 2"),
+                               {QApplication::font().family(), QStringLiteral("DejaVu Sans")});
+#endif
+}
+
+} // namespace
+
 void giveProgramStyle()
 {
     QApplication::setStyle(new MyProxyStyle(QStringLiteral("fusion")));
@@ -32,4 +47,5 @@ void giveProgramStyle()
     if (qApp->findChild<FocusRing *>() == nullptr) {
         new FocusRing(qApp);
     }
+    replaceWindowsFont();
 }
