@@ -224,6 +224,7 @@ void tst_FormSheets::plainSheetIsSet_data()
     QTest::addColumn<QString>("sheet");
     QTest::newRow("MainWindow") << "background-color: rgb(255, 255, 255);";
     QTest::newRow("widget_36") << "background-color: rgb(229, 229, 229);";
+    QTest::newRow("statusbar") << "background-color: rgb(229, 229, 229);"; // the footer goes on
     for (const char *live :
          {"highDepthLabel", "lowDepthLabel", "newBaudComboBox", "formatComboBox"}) {
         QTest::newRow(live) << "font: 600 9pt \"MS Shell Dlg 2\";";
@@ -248,8 +249,8 @@ void tst_FormSheets::plainSheetIsSet()
 void tst_FormSheets::noOtherControlBringsASheet()
 {
     FormBench form;
-    const QStringList named{"centralwidget", "widget",         "h",
-                            "widget_36",     "highDepthLabel", "lowDepthLabel"};
+    const QStringList named{"centralwidget",  "widget",        "h",        "widget_36",
+                            "highDepthLabel", "lowDepthLabel", "statusbar"};
     QStringList known = named;
     for (const Control &control : controlTable()) {
         known << QLatin1String(control.name);
