@@ -20,6 +20,9 @@ namespace {
 constexpr int highTab = 0;
 constexpr int lowTab = 1;
 
+/// Lists have no title.
+constexpr char openList[] = "";
+
 /// The size in which the window opens, the one that the form is drawn for, a small laptop's, and a
 /// maximised window's.
 const QSize sizes[] = {{1136, 800}, {1020, 947}, {800, 600}, {1920, 1080}};
@@ -34,6 +37,7 @@ struct Scene
     SounderFit fit = SounderFit::Dual;
     SounderFaults faults = {};
     const char *title = nullptr; ///< of the window to show; the main window if null
+    bool soundings = true;       ///< whether the sounder sends depths of its own accord
 };
 
 bool offline(PictureDesk & /*desk*/) { return true; }
@@ -107,6 +111,11 @@ bool graphInFeet(PictureDesk &desk)
     return graph(desk);
 }
 
+bool listOpen(PictureDesk &desk)
+{
+    return desk.connectToSounder() && desk.openList("formatComboBox");
+}
+
 std::function<bool(PictureDesk &)> help(const char *button)
 {
     return [button](PictureDesk &desk) {
@@ -138,9 +147,10 @@ std::vector<Scene> allScenes()
         {"kestrola", kestrola},
         {"refused", refused, StartSize, SounderFit::Dual, refusing()},
         {"footer-hidden", footerHidden},
-        {"graph-metres", graph, OwnSize, SounderFit::Dual, {}, "Depth Graph"},
-        {"graph-feet", graphInFeet, OwnSize, SounderFit::Dual, {}, "Depth Graph"},
+        {"graph-metres", graph, OwnSize, SounderFit::Dual, {}, "Depth Graph", false},
+        {"graph-feet", graphInFeet, OwnSize, SounderFit::Dual, {}, "Depth Graph", false},
         {"help-short", help("highEnableInfo"), OwnSize, SounderFit::Dual, {}, "Information"},
+        {"list-open", listOpen, OwnSize, SounderFit::Dual, {}, openList},
         {"help-long", help("commonSettingsInfo"), OwnSize, SounderFit::Dual, {}, "Information"},
     };
 }
@@ -191,6 +201,7 @@ SounderOptions optionsFor(const Scene &scene)
     options.fit = scene.fit;
     options.faults = scene.faults;
     options.format = Odom; // it carries both depths
+    options.soundings = scene.soundings;
     return options;
 }
 

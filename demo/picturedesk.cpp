@@ -3,6 +3,7 @@
 
 #include "picturedesk.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
 #include <QLabel>
@@ -75,6 +76,13 @@ void PictureDesk::choose(const char *list, const char *entry)
 
 void PictureDesk::showTab(int index) { find<QTabWidget>("h")->setCurrentIndex(index); }
 
+bool PictureDesk::openList(const char *name)
+{
+    auto *const box = find<QComboBox>(name);
+    box->showPopup();
+    return QTest::qWaitForWindowExposed(box->view()->window());
+}
+
 bool PictureDesk::openGraphWithHistory()
 {
     constexpr int soundings = 760;
@@ -108,7 +116,7 @@ QWidget *PictureDesk::popup(const char *title)
 {
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (QWidget *candidate : windows) {
-        if (candidate->isVisible() && candidate->windowTitle() == title) {
+        if (candidate->isVisible() && candidate->windowTitle() == QLatin1String(title)) {
             return candidate;
         }
     }

@@ -26,6 +26,9 @@ public:
     void choose(const char *list, const char *entry);
     void showTab(int index);
 
+    /// Opens the list under a combo box; its window has no title.
+    bool openList(const char *name);
+
     /// Opens the graph with as many soundings as it holds; for a live one an operator would have to
     /// wait for minutes. Answers whether the chart has been drawn.
     bool openGraphWithHistory();
