@@ -24,13 +24,17 @@ function(talvero_add_test name)
     ENVIRONMENT "${TALVERO_TEST_ENVIRONMENT}")
 endfunction()
 
-# talvero_add_dense_run(NAME PROGRAM [test functions...]): runs a test program once more as on a
-# display with twice the density.
+# talvero_add_dense_run(NAME PROGRAM [SCALE factor] [test functions...]): runs a test program once
+# more as on a display with this many times the density; twice if no factor is given.
 function(talvero_add_dense_run name program)
-  add_test(NAME ${name} COMMAND ${program} ${ARGN})
+  cmake_parse_arguments(PARSE_ARGV 2 arg "" "SCALE" "")
+  if(NOT arg_SCALE)
+    set(arg_SCALE 2)
+  endif()
+  add_test(NAME ${name} COMMAND ${program} ${arg_UNPARSED_ARGUMENTS})
   get_filename_component(label ${CMAKE_CURRENT_SOURCE_DIR} NAME)
   set_tests_properties(${name} PROPERTIES
     LABELS ${label}
     TIMEOUT 300
-    ENVIRONMENT "${TALVERO_TEST_ENVIRONMENT};QT_SCALE_FACTOR=2")
+    ENVIRONMENT "${TALVERO_TEST_ENVIRONMENT};QT_SCALE_FACTOR=${arg_SCALE}")
 endfunction()

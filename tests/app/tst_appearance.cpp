@@ -5,8 +5,12 @@
 #include "mainwindow.h"
 #include "myproxystyle.h"
 
+#include <QFontInfo>
+#include <QLabel>
 #include <QSignalSpy>
 #include <QtTest>
+
+#include <algorithm>
 
 /// The program from its start to its end, as main() runs it.
 class TestAppearance : public QObject
@@ -17,6 +21,9 @@ private slots:
     void denseDisplaysAreAskedForBeforeTheApplicationExists();
     void programHasItsOwnStyle();
     void darkDesktopBringsNoWhiteTextToTheLightWindow();
+    void depthLabelsSpeakInTheFontOfTheWindow();
+    void logosHaveThePixelsOfTheScreen_data();
+    void logosHaveThePixelsOfTheScreen();
     void closingTheWindowEndsTheProgramWithAllOthersOpen();
 };
 
@@ -42,6 +49,43 @@ void TestAppearance::darkDesktopBringsNoWhiteTextToTheLightWindow()
     giveProgramStyle();
     QVERIFY(QApplication::palette().color(QPalette::WindowText).lightness() < 64);
     QVERIFY(QApplication::palette().color(QPalette::Text).lightness() < 64);
+}
+
+// Elsewhere than on Windows the font that the form names is not known, and a system may put any
+// font in its place.
+void TestAppearance::depthLabelsSpeakInTheFontOfTheWindow()
+{
+#ifdef Q_OS_WIN
+    QSKIP("Windows has the font");
+#endif
+    const QString named = QStringLiteral("MS Shell Dlg 2");
+    QVERIFY2(!QFont::substitutes(named).isEmpty(), "nothing stands for the font");
+    QCOMPARE(QFont::substitutes(named).constFirst(), QApplication::font().family().toLower());
+    QCOMPARE(QFontInfo(QFont(named, 9)).family(), QFontInfo(QApplication::font()).family());
+}
+
+void TestAppearance::logosHaveThePixelsOfTheScreen_data()
+{
+    QTest::addColumn<QString>("image");
+    QTest::newRow("headerLabel") << ":/resourcefiles/images/brimsett-logo-header.png";
+    QTest::newRow("footerLabel") << ":/resourcefiles/images/brimsett-logo-footer.png";
+}
+
+void TestAppearance::logosHaveThePixelsOfTheScreen()
+{
+    QFETCH(QString, image);
+    const MainWindow window([] { return QStringList(); });
+    const QString name = QTest::currentDataTag();
+    const QWidgetList widgets = QApplication::allWidgets();
+    const auto logo = std::find_if(widgets.begin(), widgets.end(), [&name](const QWidget *widget) {
+        return widget->objectName() == name;
+    });
+    QVERIFY(logo != widgets.end());
+    const QSize size = QImage(image).size();
+    const QPixmap shown = qobject_cast<QLabel *>(*logo)->pixmap(Qt::ReturnByValue);
+    QCOMPARE(shown.size(), size * qApp->devicePixelRatio());
+    QCOMPARE((*logo)->sizeHint(), size);
+    QCOMPARE(shown.toImage(), QIcon(image).pixmap(size).toImage());
 }
 
 void TestAppearance::closingTheWindowEndsTheProgramWithAllOthersOpen()

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "formbench.h"
+#include "formeyes.h"
 #include "formtable.h"
 
 #include <QPainter>
@@ -10,18 +11,10 @@
 #include <QScrollBar>
 #include <QSlider>
 #include <QStyleOptionButton>
-#include <QStyleOptionSlider>
 
 namespace {
 
 const QString imageFolder = QStringLiteral(":/resourcefiles/images/");
-
-/// What the screen shows of this part of a widget.
-QImage seen(QWidget *widget, QRect part)
-{
-    const QRect inWindow(widget->mapTo(widget->window(), part.topLeft()), part.size());
-    return widget->window()->grab(inWindow).toImage().convertToFormat(QImage::Format_RGB32);
-}
 
 /// What it shows when the image stands there on the given ground.
 QImage imageOn(const QColor &ground, const QString &image)
@@ -38,29 +31,6 @@ QRect indicatorOf(const QRadioButton *radio)
     QStyleOptionButton option;
     option.initFrom(radio);
     return radio->style()->subElementRect(QStyle::SE_RadioButtonIndicator, &option, radio);
-}
-
-/// The mouse comes from the header; a first move alone only tells Qt where the mouse is.
-void moveMouseTo(QWidget *widget)
-{
-    QWidget *const window = widget->window();
-    QTest::mouseMove(window->windowHandle(), QPoint(1, 1));
-    QTest::mouseMove(window->windowHandle(), widget->mapTo(window, QPoint(5, 5)));
-    QTRY_VERIFY(widget->underMouse());
-}
-
-QRect handleOf(const QSlider *slider)
-{
-    QStyleOptionSlider option;
-    option.initFrom(slider);
-    option.orientation = slider->orientation();
-    option.minimum = slider->minimum();
-    option.maximum = slider->maximum();
-    option.sliderPosition = slider->sliderPosition();
-    option.sliderValue = slider->value();
-    option.state |= QStyle::State_Horizontal;
-    return slider->style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle,
-                                           slider);
 }
 
 const QColor pageGround(244, 244, 244);
