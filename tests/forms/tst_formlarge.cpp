@@ -49,7 +49,9 @@ void tst_FormLarge::blockKeepsTogetherInTheMiddle()
     QFETCH(QString, name);
     FormBench form;
     QVERIFY(form.show(maximised));
-    const QRect block = placeOf(form.window.findChild<QWidget *>(name));
+    const auto *widget = form.window.findChild<QWidget *>(name);
+    QVERIFY2(widget != nullptr, "nothing of this name");
+    const QRect block = placeOf(widget);
     QCOMPARE(block.width(), widestForm);
     const int left = block.left();
     const int right = maximised.width() - 1 - block.right();
