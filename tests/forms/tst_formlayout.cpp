@@ -111,6 +111,8 @@ private slots:
     void messagesMoveNothing();
     void connectButtonKeepsItsWidth();
     void formShrinksWithoutTheDetails();
+    void formIsNeverSquashed_data();
+    void formIsNeverSquashed();
 
 private:
     static void useFont(int points)
@@ -286,6 +288,32 @@ void tst_FormLayout::formShrinksWithoutTheDetails()
     const int with = form.ui.scrollAreaWidgetContents->minimumSizeHint().height();
     form.ui.widget_40->hide();
     QTRY_VERIFY(form.ui.scrollAreaWidgetContents->minimumSizeHint().height() < with);
+}
+
+void tst_FormLayout::formIsNeverSquashed_data()
+{
+    QTest::addColumn<bool>("texts");
+    QTest::newRow("before anything is said") << false;
+    QTest::newRow("with messages") << true;
+}
+
+// The window gives the form without its details less height than the form needs.
+void tst_FormLayout::formIsNeverSquashed()
+{
+    QFETCH(bool, texts);
+    FormBench form;
+    QVERIFY(form.show({800, 600}));
+    if (texts) {
+        fillWithLongTexts(form.ui);
+    }
+    form.ui.scrollAreaWidgetContents->setMinimumHeight(600);
+    form.ui.widget_40->hide();
+    const QWidget *contents = form.ui.scrollAreaWidgetContents;
+    QTRY_VERIFY(form.ui.widget_36->height() < 60);
+    QVERIFY2(contents->height() >= contents->layout()->minimumSize().height(),
+             qPrintable(QString("%1 px for %2")
+                            .arg(contents->height())
+                            .arg(contents->layout()->minimumSize().height())));
 }
 
 QTEST_MAIN(tst_FormLayout)
