@@ -66,6 +66,26 @@ Grip gripOn(const QImage &handle)
     return {first / density, (last + 1) / density};
 }
 
+/// What the screen shows of the widget, each pixel where it falls on the screen.
+QImage partOfWholeWindow(QWidget *widget)
+{
+    const QImage whole = widget->window()->grab().toImage();
+    const double density = whole.devicePixelRatio();
+    const QRectF place(widget->mapTo(widget->window(), QPoint(0, 0)), widget->size());
+    return whole.copy(QRectF(place.topLeft() * density, place.size() * density).toAlignedRect());
+}
+
+int darkPixels(const QImage &image)
+{
+    int dark = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            dark += qGray(image.pixel(x, y)) < 200;
+        }
+    }
+    return dark;
+}
+
 } // namespace
 
 class tst_FormStates : public QObject
@@ -83,6 +103,8 @@ private slots:
     void statesCanBeToldApartByEveryEye();
     void sliderGripKeepsItsSize_data();
     void sliderGripKeepsItsSize();
+    void separatorIsDrawnInItsWholeLength_data();
+    void separatorIsDrawnInItsWholeLength();
 };
 
 void tst_FormStates::statesCanBeToldApartByEveryEye_data()
@@ -144,6 +166,31 @@ void tst_FormStates::sliderGripKeepsItsSize()
     const double middle = (grip.left + grip.right) / 2;
     QVERIFY2(std::abs(middle - handle.width() / 2.0) <= 1.5,
              qPrintable(QString("in the middle of %1").arg(middle)));
+}
+
+void tst_FormStates::separatorIsDrawnInItsWholeLength_data()
+{
+    QTest::addColumn<int>("page");
+    for (const char *line : {"line", "line_2", "line_3", "line_4"}) {
+        QTest::newRow(line) << 0;
+    }
+    QTest::newRow("line_5") << 1;
+}
+
+// Where a line falls between the pixels of a dense screen depends on its place.
+void tst_FormStates::separatorIsDrawnInItsWholeLength()
+{
+    QFETCH(int, page);
+    FormBench form;
+    form.ui.h->setCurrentIndex(page);
+    auto *line = form.find<QFrame>(QTest::currentDataTag());
+    for (const QSize size : {QSize(1136, 800), QSize(1137, 801), QSize(1138, 802)}) {
+        QVERIFY(form.show(size));
+        const QImage drawn = partOfWholeWindow(line);
+        const int length = std::max(drawn.width(), drawn.height());
+        QVERIFY2(darkPixels(drawn) >= length * 9 / 10,
+                 qPrintable(QString("%1 of %2 px").arg(darkPixels(drawn)).arg(length)));
+    }
 }
 
 QTEST_MAIN(tst_FormStates)
