@@ -51,8 +51,9 @@ QByteArray sentence(const Format &format, int number)
 }
 
 /// Sees the first and the last moment of a sentence in the program: that in which the event loop
-/// calls the serial port because bytes have come, and the first event after the labels have
-/// changed. In between the program alone is at work, from reading the port to storing the sample.
+/// calls the serial port because bytes have come, and the first event (or the end of the loop's
+/// turn) after the labels have changed. In between the program alone is at work, from reading the
+/// port to storing the sample.
 class SentenceWatch : public QObject
 {
 public:
@@ -69,15 +70,19 @@ public:
         isShown = false;
     }
 
-    bool eventFilter(QObject *, QEvent *event) override
+    /// Notes whether the sentence is shown by now.
+    void look()
     {
-        if (isShown) {
-            return false;
-        }
-        if (shownDepths() != before) {
+        if (!isShown && shownDepths() != before) {
             seconds = sinceArrival.seconds();
             isShown = true;
-        } else if (event->type() == QEvent::SockAct) {
+        }
+    }
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        look();
+        if (!isShown && event->type() == QEvent::SockAct) {
             sinceArrival = Stopwatch();
         }
         return false;
@@ -116,11 +121,14 @@ public:
         const QString headerBefore = graphHeader();
         watch.start();
         bench.say(text);
-        while (works && !watch.isShown) {
+        // No qWaitFor(): it sleeps between its looks.
+        const Stopwatch patience;
+        while (!watch.isShown && patience.seconds() < 5.0) {
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+            watch.look();
         }
         QCoreApplication::processEvents(); // painting is not a sentence's matter
-        return works && graphHeader() != headerBefore ? watch.seconds : -1.0;
+        return works && watch.isShown && graphHeader() != headerBefore ? watch.seconds : -1.0;
     }
 
 private:

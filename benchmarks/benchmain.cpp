@@ -8,6 +8,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
 #include <vector>
 
 namespace {
@@ -56,15 +57,13 @@ QString ProgramWords::take(const QString &option)
 
 int ProgramWords::runBenchmarks(const QStringList &defaults) const
 {
-    std::vector<QByteArray> texts;
-    for (const QString &word : words.mid(0, 1) + defaults + words.mid(1)) {
-        texts.push_back(word.toLocal8Bit());
-    }
-    std::vector<char *> pointers;
-    for (QByteArray &text : texts) {
-        pointers.push_back(text.data());
-    }
-    pointers.push_back(nullptr);
+    const QStringList all = words.mid(0, 1) + defaults + words.mid(1);
+    std::vector<QByteArray> texts(static_cast<std::size_t>(all.size()));
+    std::transform(all.begin(), all.end(), texts.begin(),
+                   [](const QString &word) { return word.toLocal8Bit(); });
+    std::vector<char *> pointers(texts.size() + 1, nullptr);
+    std::transform(texts.begin(), texts.end(), pointers.begin(),
+                   [](QByteArray &text) { return text.data(); });
     int count = static_cast<int>(texts.size());
     benchmark::Initialize(&count, pointers.data());
     if (benchmark::ReportUnrecognizedArguments(count, pointers.data())) {

@@ -17,14 +17,14 @@ struct PeerScale
     explicit PeerScale(const DepthChartData &chart)
         : top(-chart.graphRange * 0.05 / 0.9)
         , bottom(chart.graphRange * 0.95 / 0.9)
-        , step(chart.graphRange * 1.1 / 6 < 2.5 ? 1.0 : 5.0)
+        , step(chart.graphRange * 1.1 / 6 < 2.5 ? 1 : 5)
     {}
 
     double top;
     double bottom;
-    double step; ///< for ranges up to 50 m
+    int step; ///< for ranges up to 50 m
 
-    static constexpr double dotWidth = 3.0;
+    static constexpr int dotWidth = 3;
     static constexpr QRgb lfBelowHf = qRgb(64, 192, 255);
     static constexpr QRgb lfAboveHf = qRgb(255, 192, 192);
 
