@@ -57,39 +57,54 @@ void drawNextPing(ChartUnderTest &chart, ChartScene &scene)
     chart.redraw();
 }
 
-int pixelsNotWhite(const QImage &picture)
+/// Blue, red and what lies between the two; neither the scale nor a grey frame.
+int colouredPixels(const QImage &picture)
 {
     const QImage image = picture.convertToFormat(QImage::Format_RGB32);
-    int count = 0;
+    const auto isColoured = [](QRgb pixel) {
+        constexpr int noticeable = 40;
+        return qAbs(qRed(pixel) - qBlue(pixel)) > noticeable;
+    };
+    std::ptrdiff_t count = 0;
     for (int y = 0; y < image.height(); ++y) {
         const auto *const line = reinterpret_cast<const QRgb *>(image.constScanLine(y));
-        count += static_cast<int>(std::count_if(line, line + image.width(),
-                                                [](QRgb pixel) { return pixel != 0xffffffff; }));
+        count += std::count_if(line, line + image.width(), isColoured);
     }
-    return count;
+    return static_cast<int>(count);
 }
 
-/// Whoever draws nothing wins every race: nobody may start whose picture does not show the scene.
+/// Whether the window of this maker's chart shows the scene, and another picture after another
+/// ping.
+bool drawsTheScene(const ChartMaker &maker, const SceneColumn &column, const QString &folder)
+{
+    ChartScene scene = column.make();
+    const auto chart = maker.make(sizes[0], scene);
+    drawNextPing(*chart, scene);
+    const QImage before = chart->picture();
+    drawNextPing(*chart, scene);
+    const QImage picture = chart->picture();
+
+    const int coloured = colouredPixels(picture);
+    const bool isMeantWhite = qstrcmp(maker.name, "floor") == 0;
+    const bool isDrawn = isMeantWhite
+                             ? coloured == 0
+                             : coloured > 2 * DepthChartData::maxSamples && picture != before;
+    const QString name = QString(maker.name) + ", " + column.name;
+    QTextStream(stdout) << name.leftJustified(50) << picture.width() << 'x' << picture.height()
+                        << ", " << coloured << " coloured pixels"
+                        << (isDrawn ? "\n" : ", which is WRONG\n");
+    const bool isKept =
+        folder.isEmpty() || picture.save(QDir(folder).filePath(name + QStringLiteral(".png")));
+    return isDrawn && isKept && picture.size() == sizes[0];
+}
+
+/// Whoever draws nothing wins every race: nobody may start then.
 bool allDrawTheScene(const std::vector<ChartMaker> &makers, const QString &folder)
 {
-    bool everybody = true;
+    bool everybody = folder.isEmpty() || QDir().mkpath(folder);
     for (const ChartMaker &maker : makers) {
         for (const SceneColumn &column : scenes) {
-            ChartScene scene = column.make();
-            const auto chart = maker.make(sizes[0], scene);
-            drawNextPing(*chart, scene);
-            const QImage picture = chart->picture();
-            const int inked = pixelsNotWhite(picture);
-            const bool isMeantWhite = qstrcmp(maker.name, "floor") == 0;
-            const bool isDrawn = isMeantWhite ? inked == 0 : inked > 2 * DepthChartData::maxSamples;
-            QTextStream(stdout) << QString(maker.name).leftJustified(32) << column.name << ": "
-                                << picture.width() << 'x' << picture.height() << ", " << inked
-                                << " pixels drawn" << (isDrawn ? "\n" : ", which is WRONG\n");
-            everybody = everybody && isDrawn && picture.size() == sizes[0];
-            if (!folder.isEmpty()) {
-                picture.save(
-                    QDir(folder).filePath(QString(maker.name) + ", " + column.name + ".png"));
-            }
+            everybody = drawsTheScene(maker, column, folder) && everybody;
         }
     }
     return everybody;
