@@ -6,13 +6,13 @@ function(talvero_form variable file)
   set(form ${CMAKE_SOURCE_DIR}/src/forms/${file})
   set(generated ${CMAKE_CURRENT_BINARY_DIR}/uic/ui_${name}.h) # its include guard follows this name
   set(header ${CMAKE_CURRENT_BINARY_DIR}/ui_${name}.h)
-  set(reorder ${CMAKE_SOURCE_DIR}/cmake/StyleSheetsLast.cmake)
+  set(adopt ${CMAKE_SOURCE_DIR}/cmake/AdoptPagesEarly.cmake)
   file(MAKE_DIRECTORY ${CMAKE_CURRENT_BINARY_DIR}/uic)
   add_custom_command(
     OUTPUT ${header}
     COMMAND Qt5::uic -o ${generated} ${form}
-    COMMAND ${CMAKE_COMMAND} -D IN=${generated} -D OUT=${header} -P ${reorder}
-    DEPENDS ${form} ${reorder}
+    COMMAND ${CMAKE_COMMAND} -D IN=${generated} -D OUT=${header} -P ${adopt}
+    DEPENDS ${form} ${adopt}
     COMMENT "Generating ui_${name}.h"
     VERBATIM)
   set_source_files_properties(${header} PROPERTIES SKIP_AUTOGEN ON)
