@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The TAL-VERO Connect developers
+// SPDX-License-Identifier: MIT
+
+#include "picturebook.h"
+
+#include "appearance.h"
+
+#include <QApplication>
+#include <QTemporaryDir>
+#include <QtTest>
+
+class tst_PictureBook : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { giveProgramStyle(); }
+
+    void picturesTellStateSizeAndScaleByTheirNames();
+};
+
+void tst_PictureBook::picturesTellStateSizeAndScaleByTheirNames()
+{
+    QTemporaryDir folder;
+    QVERIFY(folder.isValid());
+    const QDir pictures(folder.path());
+    QCOMPARE(takePictures(pictures, PictureChoice::Dense), 0);
+    for (const char *state : {"offline", "dual"}) {
+        for (const QSize size :
+             {QSize(1136, 800), QSize(1020, 947), QSize(800, 600), QSize(1920, 1080)}) {
+            const QString name =
+                QString("%1-%2x%3-1x.png").arg(state).arg(size.width()).arg(size.height());
+            const QImage picture(pictures.filePath(name));
+            QVERIFY2(picture.size() == size, qPrintable(name));
+        }
+    }
+    QVERIFY(QImage(pictures.filePath("offline-1136x800-1x.png")) !=
+            QImage(pictures.filePath("dual-1136x800-1x.png")));
+    for (const char *other : {"graph-metres", "graph-feet", "help-short", "help-long"}) {
+        const QStringList found = pictures.entryList({QString(other) + "-*-1x.png"});
+        QVERIFY2(found.size() == 1, other);
+    }
+}
+
+QTEST_MAIN(tst_PictureBook)
+#include "tst_picturebook.moc"
