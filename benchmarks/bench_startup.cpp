@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QProcess>
 #include <QTextStream>
+#include <QVector>
 
 #include <benchmark/benchmark.h>
 
@@ -32,13 +33,26 @@ double steadySeconds()
     return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
 }
 
+struct Row
+{
+    QString name;
+    QString program;
+    bool withoutOpenGl;
+};
+
 /// Starts the program and waits until its window is painted; nothing if it is not.
-std::optional<StartTimes> startOnce(const QString &name)
+std::optional<StartTimes> startOnce(const Row &row)
 {
     QProcess program;
+    if (row.withoutOpenGl) {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("QT_XCB_GL_INTEGRATION", "none");
+        program.setProcessEnvironment(environment);
+    }
     program.setStandardErrorFile(QProcess::nullDevice());
     const double before = steadySeconds();
-    program.start(QCoreApplication::applicationDirPath() + "/startup/" + name, QStringList());
+    program.start(QCoreApplication::applicationDirPath() + "/startup/" + row.program,
+                  QStringList());
     if (!program.waitForFinished()) {
         program.kill();
         program.waitForFinished();
@@ -52,31 +66,39 @@ std::optional<StartTimes> startOnce(const QString &name)
                       static_cast<double>(told.at(1).toLongLong()) * 1e-9};
 }
 
-void start(benchmark::State &state, const QString &name, Measurements &measured)
+void start(benchmark::State &state, const Row &row, Measurements &measured)
 {
     while (state.KeepRunning()) {
-        const auto times = startOnce(name);
+        const auto times = startOnce(row);
         if (!times) {
             state.SkipWithError("the program showed no window");
             return;
         }
         state.SetIterationTime(times->wall);
-        measured.add(name, wall, times->wall * 1000.0);
-        measured.add(name, processor, times->processor * 1000.0);
+        measured.add(row.name, wall, times->wall * 1000.0);
+        measured.add(row.name, processor, times->processor * 1000.0);
     }
 }
 
-void printTable(const Measurements &measured, const QStringList &rows)
+/// How much longer the program takes than each of the empty windows.
+void printTable(const Measurements &measured, const QVector<Row> &rows)
 {
-    QTextStream out(stdout);
-    out << measured.table("Starting", rows, {wall, processor}) << "Ratios of the medians:";
-    for (const char *column : {wall, processor}) {
-        const double empty = measured.median(rows.first(), column);
-        const double program = measured.median(rows.last(), column);
-        out << "  " << column << ' '
-            << QString::number(empty > 0.0 ? program / empty : 0.0, 'f', 2);
+    QStringList names;
+    for (const Row &row : rows) {
+        names << row.name;
     }
-    out << '\n';
+    QTextStream out(stdout);
+    out << measured.table("Starting", names, {wall, processor});
+    const QString program = names.takeLast();
+    for (const QString &empty : qAsConst(names)) {
+        out << "Ratios of the medians to \"" << empty << "\":";
+        for (const char *column : {wall, processor}) {
+            const double base = measured.median(empty, column);
+            const double ratio = base > 0.0 ? measured.median(program, column) / base : 0.0;
+            out << "  " << column << ' ' << QString::number(ratio, 'f', 2);
+        }
+        out << '\n';
+    }
 }
 
 } // namespace
@@ -84,12 +106,17 @@ void printTable(const Measurements &measured, const QStringList &rows)
 int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
-    const QStringList rows = {"start_empty", "start_program"};
+    const QVector<Row> rows = {
+        {"an empty window", "start_empty", false},
+        {"an empty window, without OpenGL", "start_empty", true},
+        {"the program", "start_program", false},
+    };
     Measurements measured(QStringLiteral("ms"), 1);
-    for (const QString &row : rows) {
+    for (const Row &row : rows) {
         startOnce(row); // once, so that the files are in memory
-        benchmark::RegisterBenchmark(qPrintable(row),
-                                     [&](benchmark::State &state) { start(state, row, measured); })
+        benchmark::RegisterBenchmark(
+            qPrintable(row.name),
+            [row, &measured](benchmark::State &state) { start(state, row, measured); })
             ->Iterations(1)
             ->UseManualTime()
             ->Unit(benchmark::kMillisecond);

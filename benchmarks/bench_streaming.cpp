@@ -155,6 +155,7 @@ int main(int argc, char **argv)
 {
     qputenv("QT_LOGGING_RULES", "default.debug=false;default.warning=false");
     prepareForHighDensity();
+    startWithoutOpenGl();
     QApplication application(argc, argv);
     giveProgramStyle();
     Measurements measured(QStringLiteral("percent of one processor core"), 2);

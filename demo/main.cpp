@@ -77,6 +77,7 @@ void keepLogOff() { qputenv("QT_LOGGING_RULES", "default.debug=false"); }
 int main(int argc, char **argv)
 {
     prepareForHighDensity();
+    startWithoutOpenGl();
     keepLogOff();
     QApplication application(argc, argv);
     giveProgramStyle();

@@ -11,6 +11,7 @@
 int main(int argc, char **argv)
 {
     prepareForHighDensity();
+    startWithoutOpenGl();
     // The log is for whoever looks for a fault; here it would only hide the names of the pictures.
     qputenv("QT_LOGGING_RULES", "default.debug=false\ndefault.warning=false");
     QApplication application(argc, argv);

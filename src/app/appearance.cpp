@@ -25,6 +25,14 @@ void prepareForHighDensity()
 #endif
 }
 
+void startWithoutOpenGl()
+{
+    constexpr char variable[] = "QT_XCB_GL_INTEGRATION";
+    if (!qEnvironmentVariableIsSet(variable)) {
+        qputenv(variable, "none");
+    }
+}
+
 namespace {
 
 /// The font that the forms name for the depths stands for the system's own on Windows and is known

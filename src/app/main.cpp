@@ -9,6 +9,7 @@
 int main(int argc, char **argv)
 {
     prepareForHighDensity();
+    startWithoutOpenGl();
     QApplication application(argc, argv);
     giveProgramStyle();
     MainWindow window;

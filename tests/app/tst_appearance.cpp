@@ -19,6 +19,7 @@ class TestAppearance : public QObject
 
 private slots:
     void denseDisplaysAreAskedForBeforeTheApplicationExists();
+    void windowsStartWithoutOpenGlUnlessItIsAskedFor();
     void programHasItsOwnStyle();
     void darkDesktopBringsNoWhiteTextToTheLightWindow();
     void depthLabelsSpeakInTheFontOfTheWindow();
@@ -31,6 +32,19 @@ void TestAppearance::denseDisplaysAreAskedForBeforeTheApplicationExists()
 {
     QVERIFY(QApplication::testAttribute(Qt::AA_EnableHighDpiScaling));
     QVERIFY(QApplication::testAttribute(Qt::AA_UseHighDpiPixmaps));
+}
+
+void TestAppearance::windowsStartWithoutOpenGlUnlessItIsAskedFor()
+{
+    constexpr char variable[] = "QT_XCB_GL_INTEGRATION";
+    const QByteArray before = qgetenv(variable);
+    qunsetenv(variable);
+    startWithoutOpenGl();
+    QCOMPARE(qgetenv(variable), QByteArray("none"));
+    qputenv(variable, "xcb_egl");
+    startWithoutOpenGl();
+    QCOMPARE(qgetenv(variable), QByteArray("xcb_egl"));
+    qputenv(variable, before);
 }
 
 void TestAppearance::programHasItsOwnStyle()
