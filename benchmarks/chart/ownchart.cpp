@@ -13,11 +13,7 @@
 namespace {
 
 /// Paints what is outstanding, and what followed from it (a new picture lays the window out anew).
-void bringIntoWindow(QWidget &widget)
-{
-    widget.repaint();
-    QCoreApplication::sendPostedEvents();
-}
+void bringIntoWindow() { QCoreApplication::sendPostedEvents(); }
 
 /// The program's own window.
 class WindowChart : public ChartUnderTest
@@ -41,13 +37,13 @@ public:
     {
         const DepthSample newest = scene.chart().samples.first();
         graph.addData(newest.hf, newest.lf);
-        bringIntoWindow(graph); // the depths in the header are not the chart's
+        bringIntoWindow(); // the depths in the header are not the chart's
     }
 
     void redraw() override
     {
         graph.drawPic();
-        bringIntoWindow(label);
+        bringIntoWindow();
     }
 
     QImage picture() override { return shownBy(label); }
@@ -88,7 +84,7 @@ protected:
     void show(const QImage &image)
     {
         label.setPixmap(QPixmap::fromImage(image));
-        bringIntoWindow(label);
+        bringIntoWindow();
     }
 
     DepthChartData chart;

@@ -81,6 +81,21 @@ private:
 
 bool hasDepth(float depth) { return depth != DepthChartData::noDepth; }
 
+constexpr double dotReach = 4.0; // half a dot, and more
+
+/// The rows of all strokes of a ping and a few more; empty if it has no depth.
+PixelRange rowsOf(const DepthSample &sample, const Geometry &geometry)
+{
+    PixelRange rows;
+    for (const float depth : {sample.hf, sample.lf}) {
+        if (hasDepth(depth)) {
+            const double y = geometry.y(static_cast<double>(depth)) + geometry.top();
+            rows = rows.united({wholePixel(y - dotReach), wholePixel(y + dotReach)});
+        }
+    }
+    return rows;
+}
+
 /// One ping's strokes on the canvas.
 struct PlacedSample
 {
@@ -94,6 +109,7 @@ struct PlacedSample
     bool hasHf;
     bool hasLf;
     bool hasConnector;
+    PixelRange rows;
 };
 
 PlacedSample placed(const DepthSample &sample, int index, const Geometry &geometry,
@@ -113,6 +129,7 @@ PlacedSample placed(const DepthSample &sample, int index, const Geometry &geomet
     result.hasHf = hasDepth(sample.hf);
     result.hasLf = hasDepth(sample.lf);
     result.hasConnector = result.hasHf && result.hasLf && sample.hf != 0.0F && sample.lf != 0.0F;
+    result.rows = rowsOf(sample, geometry);
     return result;
 }
 
@@ -142,15 +159,6 @@ void drawSample(PixelStrokes &strokes, const PlacedSample &sample)
     }
 }
 
-/// Whether a sample has a stroke in these rows; sometimes true where it has none.
-bool reaches(const PlacedSample &sample, int beginRow, int endRow)
-{
-    constexpr double dotReach = 3.0; // half a dot, and more
-    const double top = (sample.hasHf ? sample.hfY : sample.lfY);
-    const double bottom = (sample.hasLf ? sample.lfY : sample.hfY);
-    return std::min(top, bottom) - dotReach < endRow && std::max(top, bottom) + dotReach > beginRow;
-}
-
 /// As many rows as the processor's cache holds beside other things.
 int rowsInBand(const QImage &canvas)
 {
@@ -161,19 +169,18 @@ int rowsInBand(const QImage &canvas)
 /// Draws the samples on white. Two long connectors share most of their pixels' cache lines, but a
 /// big picture's column does not fit into the cache: so they are drawn band by band.
 void drawSamples(PixelStrokes &strokes, const std::vector<PlacedSample> &samples,
-                 const QImage &canvas)
+                 const PixelRange &rows, int band)
 {
-    const int band = rowsInBand(canvas);
-    for (int row = 0; row < canvas.height(); row += band) {
-        strokes.limitToRows(row, row + band);
+    for (int begin = rows.begin; begin < rows.end; begin += band) {
+        const int end = std::min(begin + band, rows.end);
+        strokes.limitToRows(begin, end);
         strokes.wipe();
         for (const PlacedSample &sample : samples) {
-            if (reaches(sample, row, row + band)) {
+            if (sample.rows.begin < end && sample.rows.end > begin) {
                 drawSample(strokes, sample);
             }
         }
     }
-    strokes.limitToRows(0, canvas.height());
 }
 
 /// The distance between two marks of the scale. It follows the range in metres also when the scale
@@ -230,26 +237,63 @@ QImage viewOf(QImage &canvas, QImage::Format format)
 
 bool operator==(const DepthChartData &left, const DepthChartData &right)
 {
+    return haveTheSameScale(left, right) && left.samples == right.samples;
+}
+
+bool haveTheSameScale(const DepthChartData &left, const DepthChartData &right)
+{
     return left.graphRange == right.graphRange && left.maxDepthLine == right.maxDepthLine &&
-           left.unitFactor == right.unitFactor && left.unitSuffix == right.unitSuffix &&
-           left.samples == right.samples;
+           left.unitFactor == right.unitFactor && left.unitSuffix == right.unitSuffix;
+}
+
+PixelRange PixelRange::united(const PixelRange &other) const
+{
+    if (isEmpty() || other.isEmpty()) {
+        return isEmpty() ? other : *this;
+    }
+    return {std::min(begin, other.begin), std::max(end, other.end)};
 }
 
 void drawDepthChart(QImage &canvas, const DepthChartData &data)
 {
-    if (canvas.isNull()) {
+    drawDepthChart(canvas, data, {0, canvas.height()});
+}
+
+void drawDepthChart(QImage &canvas, const DepthChartData &data, const PixelRange &rows)
+{
+    if (canvas.isNull() || rows.isEmpty()) {
         return;
     }
     const Geometry geometry(canvas.size(), data);
 
     PixelStrokes strokes(canvas);
-    drawSamples(strokes, placedSamples(data, geometry, strokes), canvas);
+    drawSamples(strokes, placedSamples(data, geometry, strokes), rows, rowsInBand(canvas));
+    strokes.limitToRows(rows.begin, rows.end);
 
     // Text is smoothed by another rule on an image without transparency on some systems.
     QImage withText = viewOf(canvas, QImage::Format_ARGB32);
     QPainter painter(&withText);
+    painter.setClipRect(0, rows.begin, canvas.width(), rows.end - rows.begin);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(0.0, geometry.top());
     drawScale(painter, strokes, geometry, data);
     drawMaxDepth(painter, geometry, data);
+}
+
+std::vector<PixelRange> sampleRows(const QSize &canvas, const DepthChartData &data, int strips)
+{
+    std::vector<PixelRange> rows(static_cast<std::size_t>(strips));
+    const Geometry geometry(canvas, data);
+    const double stripsPerPixel = strips / geometry.width;
+    for (int i = 0; i < data.samples.size(); ++i) {
+        const PixelRange touched = rowsOf(data.samples.at(i), geometry);
+        const double x = geometry.width - geometry.x(i);
+        const int first = std::max(wholePixel((x - dotReach) * stripsPerPixel), 0);
+        const int last = std::min(wholePixel((x + dotReach) * stripsPerPixel), strips - 1);
+        for (int strip = first; strip <= last; ++strip) {
+            PixelRange &ofStrip = rows[static_cast<std::size_t>(strip)];
+            ofStrip = ofStrip.united(touched);
+        }
+    }
+    return rows;
 }

@@ -7,7 +7,10 @@
 #include <QList>
 #include <QString>
 
+#include <vector>
+
 class QImage;
+class QSize;
 
 /// The depths that one ping gave, in metres.
 struct DepthSample
@@ -50,6 +53,20 @@ struct DepthChartData
 /// Whether both give the same picture.
 bool operator==(const DepthChartData &left, const DepthChartData &right);
 
+/// Whether both have the same scale and line of the maximum depth; their samples may differ.
+bool haveTheSameScale(const DepthChartData &left, const DepthChartData &right);
+
+/// Rows or columns of a picture, from `begin` to before `end`.
+struct PixelRange
+{
+    int begin = 0;
+    int end = 0;
+
+    bool isEmpty() const { return begin >= end; }
+    /// The smallest range that holds both.
+    PixelRange united(const PixelRange &other) const;
+};
+
 /// Draws the chart over all of the canvas, whose size is the chart's: the newest sample at the
 /// right edge, older ones to the left, the high-frequency depths as blue and the low-frequency
 /// depths as red dots with a connector between the two, then the scale and the dashed line of the
@@ -58,5 +75,13 @@ bool operator==(const DepthChartData &left, const DepthChartData &right);
 /// The canvas has the format RGB32 or ARGB32; every pixel is opaque afterwards. An empty canvas
 /// stays as it is.
 void drawDepthChart(QImage &canvas, const DepthChartData &data);
+
+/// The same for these rows only; the others stay as they are.
+void drawDepthChart(QImage &canvas, const DepthChartData &data, const PixelRange &rows);
+
+/// The rows on which samples are drawn, `strips` times for as many upright strips of equal width,
+/// from left to right; perhaps a few rows more. Where no sample is drawn, pictures of the same
+/// scale and size are the same.
+std::vector<PixelRange> sampleRows(const QSize &canvas, const DepthChartData &data, int strips);
 
 #endif // DEPTHCHART_H

@@ -38,6 +38,18 @@ void showPicture(QLabel *label, const QPixmap &picture)
     }
 }
 
+/// Shows a picture that differs from the one shown only in this region, in label coordinates. A
+/// label paints itself anew as a whole otherwise, and copying a big chart takes longer than drawing
+/// it.
+void exchangePicture(QLabel *label, const QPixmap &picture, const QRegion &difference)
+{
+    const bool wasHeldBack = label->testAttribute(Qt::WA_UpdatesDisabled);
+    label->setAttribute(Qt::WA_UpdatesDisabled, true);
+    label->setPixmap(picture);
+    label->setAttribute(Qt::WA_UpdatesDisabled, wasHeldBack);
+    label->update(difference);
+}
+
 /// What is kept of a received depth: the depth, or noDepth for a channel that gave none.
 float storedDepth(float depth, bool channelIsOn)
 {
@@ -152,16 +164,17 @@ void depthGraph::drawPic()
     if (pictureIsUpToDate() || ui->label->size().isEmpty()) {
         return;
     }
-    QImage &canvas = canvases[nextCanvas];
-    if (canvas.size() != ui->label->size()) {
-        canvas = QImage(ui->label->size(), QImage::Format_RGB32);
+    const ChartPicture &shown = pictures[shownPicture];
+    ChartPicture &next = pictures[1 - shownPicture];
+    next.draw(ui->label->size(), chart);
+    const QPixmap picture = QPixmap::fromImage(next.image()); // shares the pixels
+    if (labelShowsOwnPicture()) {
+        exchangePicture(ui->label, picture, next.difference(shown));
+    } else {
+        ui->label->setPixmap(picture);
     }
-    drawDepthChart(canvas, chart);
-    const QPixmap picture = QPixmap::fromImage(canvas); // shares the pixels
-    ui->label->setPixmap(picture);
-    nextCanvas = 1 - nextCanvas;
-    drawnChart = chart;
-    drawnPicture = picture.cacheKey();
+    shownPicture = 1 - shownPicture;
+    shownKey = picture.cacheKey();
 }
 
 void depthGraph::keyPressEvent(QKeyEvent *event)
@@ -173,9 +186,13 @@ void depthGraph::keyPressEvent(QKeyEvent *event)
     QWidget::keyPressEvent(event);
 }
 
-bool depthGraph::pictureIsUpToDate() const
+bool depthGraph::labelShowsOwnPicture() const
 {
     const QPixmap shown = ui->label->pixmap(Qt::ReturnByValue);
-    return shown.cacheKey() == drawnPicture && shown.size() == ui->label->size() &&
-           drawnChart == chart;
+    return shown.cacheKey() == shownKey && shown.size() == ui->label->size();
+}
+
+bool depthGraph::pictureIsUpToDate() const
+{
+    return labelShowsOwnPicture() && pictures[shownPicture].chart() == chart;
 }

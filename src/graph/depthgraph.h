@@ -4,9 +4,8 @@
 #ifndef DEPTHGRAPH_H
 #define DEPTHGRAPH_H
 
-#include "depthchart.h"
+#include "chartpicture.h"
 
-#include <QImage>
 #include <QPixmap>
 #include <QTimer>
 #include <QWidget>
@@ -59,6 +58,7 @@ protected:
 
 private:
     void showDepth(QLabel *label, const QString &channel, float depth);
+    bool labelShowsOwnPicture() const;
     bool pictureIsUpToDate() const;
 
     std::unique_ptr<Ui::depthGraph> ui;
@@ -69,12 +69,10 @@ private:
     QPixmap keyHF;
     QPixmap keyLF;
 
-    /// The label shows one canvas while the next picture is drawn on the other.
-    std::array<QImage, 2> canvases;
-    std::size_t nextCanvas = 0;
-
-    DepthChartData drawnChart; // what the picture shows
-    qint64 drawnPicture = 0;   // its cache key
+    /// The label shows one picture while the next is drawn over the one before.
+    std::array<ChartPicture, 2> pictures;
+    std::size_t shownPicture = 0;
+    qint64 shownKey = 0; // the cache key of what the label shows of it
 };
 
 #endif // DEPTHGRAPH_H

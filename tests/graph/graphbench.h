@@ -9,6 +9,7 @@
 #include "logcapture.h"
 
 #include <QLabel>
+#include <QScreen>
 #include <QTimer>
 #include <QtTest>
 
@@ -20,6 +21,17 @@ struct GraphBench
     QString lfText() { return label("depthGraphFieldLF")->text(); }
     QTimer *timer() { return window.findChild<QTimer *>(QStringLiteral("drawTimer")); }
     QPixmap picture() { return label("label")->pixmap(Qt::ReturnByValue); }
+
+    /// What the window system shows of the chart.
+    QImage onScreen()
+    {
+        const QLabel *const chart = label("label");
+        const QPoint place = chart->mapTo(&window, QPoint());
+        return window.screen()
+            ->grabWindow(window.winId(), place.x(), place.y(), chart->width(), chart->height())
+            .toImage()
+            .convertToFormat(QImage::Format_RGB32);
+    }
 
     void show()
     {

@@ -9,6 +9,11 @@ namespace {
 
 using Change = std::function<void(GraphBench &)>;
 
+QString afterPings(int count)
+{
+    return QStringLiteral("after %1 pings the screen shows another chart").arg(count);
+}
+
 } // namespace
 
 Q_DECLARE_METATYPE(Change)
@@ -29,6 +34,7 @@ private slots:
     void changedChartIsDrawnAgain();
     void picturesDoNotDisturbEachOther();
     void picturesTakeTurnsInTwoBuffers();
+    void everyPictureReachesTheScreen();
 };
 
 void TestDepthGraphTicks::firstPictureIsWhite()
@@ -197,6 +203,29 @@ void TestDepthGraphTicks::picturesTakeTurnsInTwoBuffers()
     QVERIFY2(buffers.at(2) == buffers.at(4) && buffers.at(3) == buffers.at(5) &&
                  buffers.at(4) != buffers.at(5),
              "a tick allocates its picture");
+}
+
+// Only what differs from the picture before is painted.
+void TestDepthGraphTicks::everyPictureReachesTheScreen()
+{
+    GraphBench bench;
+    bench.show();
+    bench.timer()->stop();
+    for (int i = 0; i < 30; ++i) {
+        if (i == 10) {
+            bench.window.goToImperial(true);
+        }
+        if (i == 20) {
+            bench.window.resize(bench.window.size() + QSize(31, 17));
+            QCoreApplication::processEvents();
+        }
+        bench.window.addData(static_cast<float>(i % 5), 4.5F - static_cast<float>(i % 3));
+        bench.window.drawPic();
+        QCoreApplication::processEvents();
+        bench.window.drawPic(); // the first one brings the colour keys, which take room
+        QCoreApplication::processEvents();
+        QVERIFY2(bench.onScreen() == bench.picture().toImage(), qPrintable(afterPings(i + 1)));
+    }
 }
 
 QTEST_MAIN(TestDepthGraphTicks)
