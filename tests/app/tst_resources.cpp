@@ -110,6 +110,27 @@ QSet<int> inkOf(const QString &path)
     return ink;
 }
 
+/// The pieces of a drawing that do not touch each other, from left to right.
+QVector<QRect> piecesOf(const QString &path)
+{
+    QVector<QRect> pieces;
+    QRegion left(QBitmap::fromImage(QImage(path).createAlphaMask()));
+    while (!left.isEmpty()) {
+        QRegion piece(*left.begin());
+        QRegion grown = piece;
+        do {
+            piece = grown;
+            for (const QRect &row : piece)
+                grown += left & row.adjusted(-1, -1, 1, 1);
+        } while (grown != piece);
+        pieces << piece.boundingRect();
+        left -= piece;
+    }
+    std::sort(pieces.begin(), pieces.end(),
+              [](const QRect &one, const QRect &other) { return one.left() < other.left(); });
+    return pieces;
+}
+
 } // namespace
 
 class ResourcesTest : public QObject
@@ -132,6 +153,8 @@ private slots:
     void programIconHasEverySizeThatDesktopsAskFor();
     void spinnerTurnsForever();
     void headerLogoIsLightAndFooterLogoDark();
+    void logosSpellTheProductsName_data();
+    void logosSpellTheProductsName();
     void statesDifferForEveryEye_data();
     void statesDifferForEveryEye();
     void stepButtonsDarkenUnderTheHand_data();
@@ -269,6 +292,28 @@ void ResourcesTest::headerLogoIsLightAndFooterLogoDark()
     const QList<int> footer = inkOf(pathOf("brimsett-logo-footer.png")).values();
     QVERIFY(*std::min_element(header.begin(), header.end()) > 240);
     QVERIFY(*std::max_element(footer.begin(), footer.end()) < 80);
+}
+
+void ResourcesTest::logosSpellTheProductsName_data()
+{
+    QTest::addColumn<int>("emblemWidth");
+    QTest::newRow("brimsett-logo-header.png") << 40;
+    QTest::newRow("brimsett-logo-footer.png") << 28;
+}
+
+/// Seven capitals of one height, and after the third the hyphen of "TAL-VERO".
+void ResourcesTest::logosSpellTheProductsName()
+{
+    QFETCH(int, emblemWidth);
+    QString shape;
+    int capital = 0;
+    for (const QRect &piece : piecesOf(densePathOf(QTest::currentDataTag()))) {
+        if (piece.left() < 2 * emblemWidth)
+            continue;
+        capital = qMax(capital, piece.height());
+        shape += piece.height() * 4 < capital ? '-' : piece.height() >= capital - 1 ? 'X' : '?';
+    }
+    QCOMPARE(shape, QStringLiteral("XXX-XXXX"));
 }
 
 void ResourcesTest::statesDifferForEveryEye_data()

@@ -48,6 +48,7 @@ private slots:
     void boxSaysWhatItIs();
     void listThatPopsUpIsCalledAsItsBox();
     void messagesAreSpokenWithoutTheirMarkUp();
+    void logosAreSpokenAsTheyRead();
 };
 
 void TestSpokenNames::everyControlHasItsOwn()
@@ -228,6 +229,15 @@ void TestSpokenNames::messagesAreSpokenWithoutTheirMarkUp()
     ReadyBench bench;
     QVERIFY(!bench.info().isEmpty());
     QCOMPARE(spoken(bench.find<QLabel>("infoLabel")), bench.info());
+}
+
+void TestSpokenNames::logosAreSpokenAsTheyRead()
+{
+    ReadyBench bench;
+    auto *const footerLogo = topLevel<InfoForm>()->findChild<QLabel *>("footerLabel");
+    QVERIFY(footerLogo != nullptr);
+    QCOMPARE(spoken(bench.find<QLabel>("headerLabel")), QStringLiteral("TAL-VERO"));
+    QCOMPARE(spoken(footerLogo), QStringLiteral("TAL-VERO"));
 }
 
 QTEST_MAIN(TestSpokenNames)
