@@ -4,6 +4,8 @@
 #ifndef FORMEYES_H
 #define FORMEYES_H
 
+#include "eyes.h"
+
 #include <QImage>
 #include <QSlider>
 #include <QStyleOptionSlider>
@@ -38,6 +40,20 @@ inline QRect handleOf(const QSlider *slider)
     option.state |= QStyle::State_Horizontal;
     return slider->style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle,
                                            slider);
+}
+
+/// How much light a colour sends, from 0 (black) to 1 (white).
+inline double luminanceOf(QRgb colour)
+{
+    return 0.2126 * linearLight(qRed(colour)) + 0.7152 * linearLight(qGreen(colour)) +
+           0.0722 * linearLight(qBlue(colour));
+}
+
+/// From 1 (the same) to 21 (black on white); text wants 4.5, the parts of a control 3.
+inline double contrastOf(QRgb one, QRgb other)
+{
+    const auto [darker, lighter] = std::minmax({luminanceOf(one), luminanceOf(other)});
+    return (lighter + 0.05) / (darker + 0.05);
 }
 
 #endif // FORMEYES_H

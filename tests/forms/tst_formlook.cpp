@@ -33,6 +33,29 @@ QRect indicatorOf(const QRadioButton *radio)
     return radio->style()->subElementRect(QStyle::SE_RadioButtonIndicator, &option, radio);
 }
 
+/// Between the darkest pixel around the middle and the ground beside it.
+double contrastOfText(const QImage &control)
+{
+    constexpr int edge = 4;
+    const int middle = control.height() / 2;
+    QRgb text = qRgb(255, 255, 255);
+    QRgb ground = text;
+    for (int y = middle - edge; y <= middle + edge; ++y) {
+        QRgb darkest = qRgb(255, 255, 255);
+        QRgb lightest = qRgb(0, 0, 0);
+        for (int x = edge; x < control.width() - edge; ++x) {
+            const QRgb pixel = control.pixel(x, y);
+            darkest = luminanceOf(pixel) < luminanceOf(darkest) ? pixel : darkest;
+            lightest = luminanceOf(pixel) > luminanceOf(lightest) ? pixel : lightest;
+        }
+        if (luminanceOf(darkest) < luminanceOf(text)) {
+            text = darkest;
+            ground = lightest;
+        }
+    }
+    return contrastOf(text, ground);
+}
+
 const QColor pageGround(244, 244, 244);
 const QColor windowGround(255, 255, 255);
 
@@ -63,7 +86,10 @@ private slots:
     void headerRunsFromDarkToLightBlue();
     void disabledValueIsGreyAndEnabledInputIsWhite();
     void controlsOnAPageStandOnThePageColour();
-    void scrollBarsLookAsTheStyleDrawsThem();
+    void scrollBarStandsOutFromItsGround_data();
+    void scrollBarStandsOutFromItsGround();
+    void lockedTextCanBeReadInTheSun_data();
+    void lockedTextCanBeReadInTheSun();
 };
 
 void tst_FormLook::radioShowsTheImageOfItsState_data()
@@ -296,18 +322,50 @@ void tst_FormLook::controlsOnAPageStandOnThePageColour()
              QColor(229, 229, 229));
 }
 
-// The white of the window, once on a scroll bar, makes it a bare rectangle with arrows.
-void tst_FormLook::scrollBarsLookAsTheStyleDrawsThem()
+void tst_FormLook::scrollBarStandsOutFromItsGround_data()
 {
+    QTest::addColumn<Qt::Orientation>("orientation");
+    QTest::newRow("up and down") << Qt::Vertical;
+    QTest::newRow("sideways") << Qt::Horizontal;
+}
+
+// On deck, in the sun, an operator has to see that there is more form below.
+void tst_FormLook::scrollBarStandsOutFromItsGround()
+{
+    QFETCH(Qt::Orientation, orientation);
     FormBench form;
     QVERIFY(form.show({800, 600}));
-    QScrollBar *const shown = form.ui.scrollArea->verticalScrollBar();
-    QScrollBar plain(Qt::Vertical);
-    plain.setRange(shown->minimum(), shown->maximum());
-    plain.setPageStep(shown->pageStep());
-    plain.resize(shown->size());
-    QVERIFY(shown->isVisible());
-    QCOMPARE(seen(shown, shown->rect()), seen(&plain, plain.rect()));
+    QScrollBar *const bar = orientation == Qt::Vertical ? form.ui.scrollArea->verticalScrollBar()
+                                                        : form.ui.scrollArea->horizontalScrollBar();
+    QVERIFY(bar->isVisible());
+    const QImage shown = seen(bar, bar->rect());
+    const QPoint nearEnd = QPoint(shown.width() - 1, shown.height() - 1) - QPoint(8, 8);
+    const QPoint nearStart(8, 8); // the form stands at its start, and so does the handle
+    const double contrast = contrastOf(shown.pixel(nearStart), shown.pixel(nearEnd));
+    QVERIFY2(contrast >= 3, qPrintable(QString("a contrast of %1").arg(contrast)));
+    QCOMPARE(shown.pixelColor(nearEnd), QColor(229, 229, 229));
+}
+
+void tst_FormLook::lockedTextCanBeReadInTheSun_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char *name :
+         {"portComboBox", "baudComboBox", "newBaudComboBox", "formatComboBox", "pingLabel",
+          "pingEdit", "highPulseEdit", "highDraft", "resetSettings"}) {
+        QTest::newRow(name) << name;
+    }
+}
+
+// An operator still wants to know which port and which settings it is that are locked.
+void tst_FormLook::lockedTextCanBeReadInTheSun()
+{
+    QFETCH(QString, name);
+    FormBench form;
+    QVERIFY(form.show({1136, 800}));
+    auto *const control = form.window.findChild<QWidget *>(name);
+    control->setEnabled(false);
+    const double contrast = contrastOfText(seen(control, control->rect()));
+    QVERIFY2(contrast >= 4.5, qPrintable(QString("a contrast of %1").arg(contrast)));
 }
 
 QTEST_MAIN(tst_FormLook)
