@@ -113,6 +113,7 @@ private slots:
     void formShrinksWithoutTheDetails();
     void formIsNeverSquashed_data();
     void formIsNeverSquashed();
+    void outputRowStandsOnOneLine();
 
 private:
     static void useFont(int points)
@@ -314,6 +315,25 @@ void tst_FormLayout::formIsNeverSquashed()
              qPrintable(QString("%1 px for %2")
                             .arg(contents->height())
                             .arg(contents->layout()->minimumSize().height())));
+}
+
+void tst_FormLayout::outputRowStandsOnOneLine()
+{
+    FormBench form;
+    QVERIFY(form.show(startSize));
+    const QWidget *const caption = form.ui.openGraphLabel;
+    for (const QWidget *other :
+         {form.ui.newBaudLabel, form.ui.formatLabel, form.ui.resetLabel, form.ui.saveLabel}) {
+        QCOMPARE(placeInWindow(other).y(), placeInWindow(caption).y());
+    }
+    const QWidget *const button = form.ui.openGraph;
+    for (const QWidget *other : {static_cast<QWidget *>(form.ui.newBaudComboBox),
+                                 static_cast<QWidget *>(form.ui.formatComboBox),
+                                 static_cast<QWidget *>(form.ui.resetSettings),
+                                 static_cast<QWidget *>(form.ui.saveSettingsToDevice)}) {
+        QCOMPARE(placeInWindow(other).y(), placeInWindow(button).y());
+        QCOMPARE(other->height(), button->height());
+    }
 }
 
 QTEST_MAIN(tst_FormLayout)
