@@ -254,7 +254,7 @@ private:
 
     // ---- mainwindow_depths.cpp
     void parseDepth(const QString &line);
-    void noteSentence(const QString &line, const DepthSentence::Depths &depths);
+    void noteSentence(const DepthSentence::Depths &depths);
     void showDepth(Channel &channel, const char *prefix, float metres);
     void showNmeaDepth(const QString &line, float metres, bool isLow);
 

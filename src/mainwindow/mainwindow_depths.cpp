@@ -27,7 +27,10 @@ void MainWindow::parseDepth(const QString &line)
     const bool nmeaCarriesLow = !ui->enableHF->isChecked() && ui->enableLF->isChecked();
     const DepthSentence::Depths depths = DepthSentence::read(
         line, {nmeaCarriesLow, ui->formatComboBox->currentText(), lastHfDepth, lastLfDepth});
-    noteSentence(line, depths);
+    if (depths.form == DepthSentence::Form::SingleLow) {
+        DEBUG_LOG << "length is " << line.length();
+    }
+    noteSentence(depths);
     if (depths.high < 0.0F && depths.low < 0.0F) {
         if (!ui->enableLF->isChecked()) {
             ui->lowDepthLabel->clear();
@@ -45,7 +48,7 @@ void MainWindow::parseDepth(const QString &line)
 }
 
 /// What a sentence leaves behind besides the depths that it shows.
-void MainWindow::noteSentence(const QString &line, const DepthSentence::Depths &depths)
+void MainWindow::noteSentence(const DepthSentence::Depths &depths)
 {
     using namespace DepthSentence;
     if (depths.emptied != Emptied::None) {
@@ -55,8 +58,6 @@ void MainWindow::noteSentence(const QString &line, const DepthSentence::Depths &
         lastHfDepth = depths.high;
     } else if (depths.form == Form::DesoLow) {
         lastLfDepth = depths.low;
-    } else if (depths.form == Form::SingleLow) {
-        DEBUG_LOG << "length is " << line.length();
     }
 }
 

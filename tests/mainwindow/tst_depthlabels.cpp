@@ -323,6 +323,8 @@ void TestDepthLabels::singleLowSentenceIsLoggedWithItsLength()
     QVERIFY(bench->tell("e00131 "));
     QCOMPARE(log.texts().filter("length is ").size(), 1);
     QVERIFY2(log.texts().filter("length is ").first().endsWith(" 7"), "the line has 7 characters");
+    const QString logged = log.lines().filter("length is ").first();
+    QVERIFY2(logged.contains(" MainWindow::parseDepth "), qPrintable(logged));
 }
 
 void TestDepthLabels::graphWindowShowsThePair()
