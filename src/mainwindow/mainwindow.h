@@ -256,7 +256,7 @@ private:
     void parseDepth(const QString &line);
     void noteSentence(const DepthSentence::Depths &depths);
     void showDepth(Channel &channel, const char *prefix, float metres);
-    void showNmeaDepth(const QString &line, float metres, bool isLow);
+    void showNmeaDepth(const QString &line, const DepthSentence::Depths &depths, bool isLow);
 
     // ---- mainwindow_controls.cpp: what can be used when
     void updateControls();

@@ -40,7 +40,7 @@ void MainWindow::parseDepth(const QString &line)
     emit gotDepths(highDisabled ? switchedOff : depths.high,
                    lowDisabled ? switchedOff : depths.low);
     if (line.contains(QLatin1String("$SDDB"))) {
-        showNmeaDepth(line, std::max(depths.high, depths.low), nmeaCarriesLow);
+        showNmeaDepth(line, depths, nmeaCarriesLow);
     } else {
         showDepth(high, "HF Depth: ", depths.high);
         showDepth(low, "LF Depth: ", depths.low);
@@ -71,9 +71,12 @@ void MainWindow::showDepth(Channel &channel, const char *prefix, float metres)
 }
 
 /// An NMEA sentence carries one depth, whichever channel it is; the second label tells when it is
-/// measured from the transducer and not from the surface.
-void MainWindow::showNmeaDepth(const QString &line, float metres, bool isLow)
+/// measured from the transducer and not from the surface. (One that noise has given the marks of
+/// another form may hold two: the one that the first label names is shown, if it is there.)
+void MainWindow::showNmeaDepth(const QString &line, const DepthSentence::Depths &depths, bool isLow)
 {
+    const float named = isLow ? depths.low : depths.high;
+    const float metres = named < 0.0F ? std::max(depths.high, depths.low) : named;
     ui->highDepthLabel->setText(depthText(isLow ? "LF Depth: " : "HF Depth: ", metres, imperial));
     ui->lowDepthLabel->setText(line.contains(QLatin1String("$SDDBT")) ? "(Depth Below Transducer)"
                                                                       : "");

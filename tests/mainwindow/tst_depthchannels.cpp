@@ -33,6 +33,7 @@ private slots:
     void channelThatTheUnitLacksIsToldAsAThousand();
     void nmeaDepthIsNamedAfterTheChannelThatIsOn_data();
     void nmeaDepthIsNamedAfterTheChannelThatIsOn();
+    void nmeaDepthIsThatOfTheChannelItIsNamedAfter();
     void sentenceWithoutDepthEmptiesTheLowLabelWhileLowIsOff();
     void sentenceWithoutDepthLeavesTheLowLabelWhileLowIsOn();
     void emptyLineLeavesTheLabelsWhileLowIsOff();
@@ -137,6 +138,15 @@ void TestDepthChannels::nmeaDepthIsNamedAfterTheChannelThatIsOn()
     QVERIFY(bench->tell(DepthBench::nmeaBelowSurface));
     QCOMPARE(bench->takeTold(), (Pairs{{high, low}}));
     QCOMPARE(bench->labels(), QStringList({highLabel, ""}));
+}
+
+/// Noise may give a sentence the marks of two forms; then it holds two depths.
+void TestDepthChannels::nmeaDepthIsThatOfTheChannelItIsNamedAfter()
+{
+    QVERIFY(bench->connectAs());
+    QVERIFY(bench->switchOff("H"));
+    QVERIFY(bench->tell("$SDDBS et B 00131 00123"));
+    QCOMPARE(bench->labels(), QStringList({"LF Depth: 1.23", ""}));
 }
 
 void TestDepthChannels::sentenceWithoutDepthEmptiesTheLowLabelWhileLowIsOff()

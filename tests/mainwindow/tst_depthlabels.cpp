@@ -100,6 +100,9 @@ void TestDepthLabels::sentenceIsShownAndTold_data()
         "(Depth Below Transducer)");
     row("NMEA with an ORVANDO mark", "$SDDBT,4.0 ,f,1.23,M", 0.0F, 0.0F, "HF Depth: 0.00",
         "(Depth Below Transducer)");
+    row("NMEA with an ODOM mark", "$SDDBS et B 00123 00131", 1.23F, 1.31F, hf, "");
+    row("NMEA with KESTROLA's low mark", "00131T-94L$SDDBT", none, 1.31F, "HF Depth: 1.31",
+        "(Depth Below Transducer)");
     row("DESO 25 high", "DA00001.23 m", 1.23F, none, hf, "");
     row("DESO 25 low", "DB00001.31 m", none, 1.31F, "", lf);
     row("DESO 25 unreadable", "DA--------", 0.0F, none, "HF Depth: 0.00", "");
