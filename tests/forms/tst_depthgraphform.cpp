@@ -24,6 +24,8 @@ private slots:
     void headerReadsTitleThenHighThenLow();
     void chartFillsTheRest();
     void headerStandsStillWhenDepthsChange();
+    void smallestWindowHoldsBothDepths();
+    void noDepthWidensTheWindow();
 
 private:
     QWidget window;
@@ -135,6 +137,28 @@ void tst_DepthGraphForm::headerStandsStillWhenDepthsChange()
     ui.depthGraphFieldLF->clear();
     QCoreApplication::sendPostedEvents();
     QCOMPARE(ui.depthGraphFieldLF->geometry(), low);
+}
+
+void tst_DepthGraphForm::smallestWindowHoldsBothDepths()
+{
+    ui.depthGraphFieldHF->setText(QStringLiteral("High Frequency Depth: <b>328.08ft</b>"));
+    ui.depthGraphFieldLF->setText(QStringLiteral("Low Frequency Depth: <b>328.08ft</b>"));
+    QVERIFY2(window.layout()->minimumSize().width() <= window.minimumWidth(),
+             qPrintable(QString::number(window.layout()->minimumSize().width())));
+}
+
+/// Noise on the line may read as a number of forty digits.
+void tst_DepthGraphForm::noDepthWidensTheWindow()
+{
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    const QSize before = window.size();
+    const QString digits(40, QLatin1Char('9'));
+    ui.depthGraphFieldHF->setText("High Frequency Depth: <b>" + digits + ".00ft</b>");
+    ui.depthGraphFieldLF->setText("Low Frequency Depth: <b>" + digits + ".00ft</b>");
+    QTRY_VERIFY(window.layout()->minimumSize().width() > before.width());
+    window.layout()->activate(); // as the event loop does in its next turn
+    QCOMPARE(window.size(), before);
 }
 
 QTEST_MAIN(tst_DepthGraphForm)
