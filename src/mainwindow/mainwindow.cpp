@@ -33,6 +33,10 @@ constexpr auto resizeGrace = 1s;
 
 constexpr QSize startSize(1136, 800);
 
+/// To which a result is appended: longer than any that the operator gets to read. A line full of
+/// noise may answer without end.
+constexpr int longestInfoText = 1000;
+
 /// The output format that the list shows until a device has told its own.
 constexpr char startFormat[] = "NMEA DBS";
 
@@ -176,6 +180,11 @@ void MainWindow::setInfoText(const QString &colour, const QString &text)
     lastInfoText = text;
     ui->infoLabel->setText("<font color='" + colour + "'>" + text + "</font>");
     infoTimer.start();
+}
+
+void MainWindow::setInfoResult(const QString &colour, const QString &result)
+{
+    setInfoText(colour, lastInfoText.left(longestInfoText) + result);
 }
 
 void MainWindow::clearInfoText() { setInfoText(QString()); }

@@ -210,6 +210,7 @@ private:
     void fillLists();
     void setInfoText(const QString &text);
     void setInfoText(const QString &colour, const QString &text);
+    void setInfoResult(const QString &colour, const QString &result);
 
     // ---- mainwindow_link.cpp
     bool openLink(const QString &port, const QString &rate);

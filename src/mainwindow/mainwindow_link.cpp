@@ -162,7 +162,7 @@ void MainWindow::serialTimeout()
 {
     DEBUG_LOG << "SERIAL TIMED OUT";
     if (commandInFlight) {
-        setInfoText(InfoColour::failure, lastInfoText + " ... Command Timed Out");
+        setInfoResult(InfoColour::failure, " ... Command Timed Out");
         commandInFlight = false;
     } else if (connecting) {
         connecting = false;

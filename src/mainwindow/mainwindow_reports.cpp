@@ -141,7 +141,7 @@ void MainWindow::setFitted(Channel &channel, bool fitted)
 
 void MainWindow::acknowledge(const QString & /*line*/)
 {
-    setInfoText(InfoColour::success, lastInfoText + " ... Success");
+    setInfoResult(InfoColour::success, " ... Success");
     commandInFlight = false;
     const QString rate = ui->baudComboBox->currentText();
     const QString newRate = ui->newBaudComboBox->currentText();
@@ -176,7 +176,7 @@ void MainWindow::refuse(const QString & /*line*/)
             return lastInfoText.contains(QLatin1String(candidate.setting));
         });
     const char *words = advice == std::end(advices) ? plainRefusal : advice->words;
-    setInfoText(InfoColour::failure, lastInfoText + words);
+    setInfoResult(InfoColour::failure, words);
     commandInFlight = false;
 }
 

@@ -27,6 +27,7 @@ private slots:
     void anAnswerEndsTheWaitForIt_data();
     void anAnswerEndsTheWaitForIt();
     void theNextConnectionDoesNotInheritAWaitingCommand();
+    void endlessAnswersDoNotLengthenTheInfoLineWithoutEnd();
 
 private:
     void change(const QString &button, const QByteArray &command);
@@ -180,6 +181,27 @@ void CommandAnswersTest::theNextConnectionDoesNotInheritAWaitingCommand()
     QTRY_VERIFY(bench->info() != "Connecting to Device");
     QCOMPARE(bench->info(), QString("Could Not Connect To Device"));
     QCOMPARE(bench->infoColour(), QString("Red"));
+}
+
+void CommandAnswersTest::endlessAnswersDoNotLengthenTheInfoLineWithoutEnd()
+{
+    const QString announced = "Setting Sound Velocity to 1501 m/s";
+    const QString refused = " ... Received Error - Command Not Applied";
+    change("soundVelocityUp", "*v501000");
+    QVERIFY(QTest::qWaitFor([this] {
+        bench->say("ERR");
+        return bench->info().size() > 1000;
+    }));
+    for (const char *answer : {"OK", "ERR", "OK"}) {
+        const QString end = answer == QByteArray("OK") ? " ... Success" : refused;
+        QVERIFY(QTest::qWaitFor([this, answer, &end] {
+            bench->say(answer);
+            return bench->info().endsWith(end);
+        }));
+    }
+    QVERIFY(bench->info().startsWith(announced + refused + refused));
+    QVERIFY2(bench->info().size() <= 1000 + refused.size(),
+             qPrintable(QString("%1 characters").arg(bench->info().size())));
 }
 
 QTEST_MAIN(CommandAnswersTest)
