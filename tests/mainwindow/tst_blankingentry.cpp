@@ -70,30 +70,30 @@ void BlankingEntryTest::returnShowsTheBlankingInAllThreePlaces_data()
     // clang-format off
     constexpr struct
     {
-        bool inFeet;
         const char *channel;
         const char *typed;
         const char *shown;
         const char *beside;
-        int position;
         const char *command;
+        int position;
+        bool inFeet;
     } rows[] = {
-        {false, "high", "2.5",  "2.50",  "2.50 m",   250,  "*m02500H"},
-        {false, "low",  "2.5",  "2.50",  "2.50 m",   250,  "*m02500L"},
-        {false, "high", "20",   "10.00", "10.00 m",  1000, "*m10000H"},
-        {false, "low",  "20",   "10.00", "10.00 m",  1000, "*m10000L"},
-        {false, "high", "0.1",  "0.30",  "0.30 m",   30,   "*m00300H"},
-        {false, "low",  "0.45", "0.50",  "0.50 m",   50,   "*m00500L"},
-        {false, "high", "near", "0.30",  "0.30 m",   30,   "*m00300H"},
-        {false, "low",  "",     "0.50",  "0.50 m",   50,   "*m00500L"},
-        {false, "high", "-5",   "0.30",  "0.30 m",   30,   "*m00300H"},
-        {false, "high", "1e9",  "10.00", "10.00 m",  1000, "*m10000H"},
-        {false, "low",  "-1e9", "0.50",  "0.50 m",   50,   "*m00500L"},
-        {true,  "high", "5",    "5.00",  "5.00 ft",  500,  "*m01524H"},
-        {true,  "low",  "5",    "5.00",  "5.00 ft",  500,  "*m01524L"},
-        {true,  "high", "40",   "32.81", "32.81 ft", 3000, "*m10000H"},
-        {true,  "high", "0.5",  "0.98",  "0.98 ft",  100,  "*m00300H"},
-        {true,  "low",  "1",    "1.64",  "1.64 ft",  200,  "*m00500L"},
+        {"high", "2.5",  "2.50",  "2.50 m",   "*m02500H", 250,  false},
+        {"low",  "2.5",  "2.50",  "2.50 m",   "*m02500L", 250,  false},
+        {"high", "20",   "10.00", "10.00 m",  "*m10000H", 1000, false},
+        {"low",  "20",   "10.00", "10.00 m",  "*m10000L", 1000, false},
+        {"high", "0.1",  "0.30",  "0.30 m",   "*m00300H", 30,   false},
+        {"low",  "0.45", "0.50",  "0.50 m",   "*m00500L", 50,   false},
+        {"high", "near", "0.30",  "0.30 m",   "*m00300H", 30,   false},
+        {"low",  "",     "0.50",  "0.50 m",   "*m00500L", 50,   false},
+        {"high", "-5",   "0.30",  "0.30 m",   "*m00300H", 30,   false},
+        {"high", "1e9",  "10.00", "10.00 m",  "*m10000H", 1000, false},
+        {"low",  "-1e9", "0.50",  "0.50 m",   "*m00500L", 50,   false},
+        {"high", "5",    "5.00",  "5.00 ft",  "*m01524H", 500,  true},
+        {"low",  "5",    "5.00",  "5.00 ft",  "*m01524L", 500,  true},
+        {"high", "40",   "32.81", "32.81 ft", "*m10000H", 3000, true},
+        {"high", "0.5",  "0.98",  "0.98 ft",  "*m00300H", 100,  true},
+        {"low",  "1",    "1.64",  "1.64 ft",  "*m00500L", 200,  true},
     };
     // clang-format on
     for (const auto &row : rows) {
