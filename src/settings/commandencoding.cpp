@@ -3,6 +3,8 @@
 
 #include "commandencoding.h"
 
+#include "outputformat.h"
+
 #include <algorithm>
 #include <limits>
 
@@ -23,15 +25,6 @@ qint32 truncated(double number)
 qint32 difference(qint32 minuend, qint32 subtrahend)
 {
     return static_cast<qint32>(static_cast<quint32>(minuend) - static_cast<quint32>(subtrahend));
-}
-
-/// The formats in the order of the device's numbers, which differs from the chooser's.
-const QStringList &deviceFormats()
-{
-    static const QStringList formats = {"ODOM",          "NMEA DBT",      "NMEA DBS",
-                                        "ORVANDO",       "DESO 25",       "KESTROLA",
-                                        "SONARMITE OLD", "SONARMITE NEW", "SONARMITE DUAL"};
-    return formats;
 }
 
 } // namespace
@@ -71,8 +64,8 @@ float tvgLetter(const QString &tvg)
 
 float formatNumber(const QString &format)
 {
-    const int index = deviceFormats().lastIndexOf(format);
-    return index < 0 ? 1.0F : static_cast<float>(index + 1);
+    const OutputFormat *known = OutputFormats::find(format);
+    return known ? static_cast<float>(known->deviceNumber) : 1.0F;
 }
 
 float baudCode(const QString &rate, const QStringList &rates)
@@ -82,9 +75,20 @@ float baudCode(const QString &rate, const QStringList &rates)
 
 float modeNumber(const QString &mode) { return mode == "Active" ? 1.0F : 0.0F; }
 
-QString fill(const QString &commandFormat, qint32 number)
+QString fill(const QByteArray &commandFormat, qint32 number)
 {
-    return QString::asprintf(commandFormat.toLatin1().constData(), number);
+    return QString::asprintf(commandFormat.constData(), number);
+}
+
+QString threeTimes(const QByteArray &commandFormat, const NumberSource &number)
+{
+    const auto digit = [&number]() { return whole(number()); };
+    return QString::asprintf(commandFormat.constData(), digit(), digit(), digit());
+}
+
+QString onOrOff(const QByteArray & /*commandFormat*/, const NumberSource &number)
+{
+    return number() > 0.0F ? "*b1" : "*h1";
 }
 
 } // namespace CommandEncoding

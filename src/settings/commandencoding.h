@@ -4,8 +4,14 @@
 #ifndef COMMANDENCODING_H
 #define COMMANDENCODING_H
 
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
+
+#include <functional>
+
+/// Gives the current number of a setting. Each reading of it is noted in the debug log.
+using NumberSource = std::function<float()>;
 
 /// How a setting's value becomes the whole number or the letter in its set command. Reals are
 /// 32-bit floats and whole numbers 32 bits wide, as the device counts; fractions are dropped toward
@@ -43,7 +49,23 @@ float modeNumber(const QString &mode);
 
 /// The command with the number in the template's one place, as a decimal or, for "%c", as the
 /// character of that code. A decimal longer than the template's width is not cut.
-QString fill(const QString &commandFormat, qint32 number);
+QString fill(const QByteArray &commandFormat, qint32 number);
+
+/// The set command that a template gives for a setting's number.
+using Text = QString (*)(const QByteArray &commandFormat, const NumberSource &number);
+
+/// The number encoded in the template's one place.
+template <qint32 (*encode)(float)>
+QString one(const QByteArray &commandFormat, const NumberSource &number)
+{
+    return fill(commandFormat, encode(number()));
+}
+
+/// The whole number in each of the template's three places, read anew for each.
+QString threeTimes(const QByteArray &commandFormat, const NumberSource &number);
+
+/// "*b1" for a number above 0, else "*h1"; there is no template for it.
+QString onOrOff(const QByteArray &commandFormat, const NumberSource &number);
 
 } // namespace CommandEncoding
 

@@ -3,21 +3,35 @@
 
 #include "settings.h"
 
-#include "commandencoding.h"
 #include "debuglog.h"
 #include "numbertext.h"
+#include "outputformat.h"
 #include "portlister.h"
+#include "settingspec.h"
 #include "settingsreport.h"
-#include "settingstable.h"
 #include "valuerules.h"
-
-#include <utility>
 
 namespace {
 
 constexpr float acceptedWord = 0.0F;
 constexpr float refused = -1.0F;
 constexpr float unknownKey = -1.0F;
+
+/// Every setting at its default, the functions of the records still empty.
+SettingTable defaultTable()
+{
+    SettingTable table;
+    table.reserve(SettingSpecs::all().size());
+    for (const SettingSpec &spec : SettingSpecs::all()) {
+        SettingRecord &record = table[spec.key];
+        record.prettyName = spec.prettyName;
+        record.commandFormat = QString::fromLatin1(spec.commandFormat);
+        record.reportLine = spec.reportLine;
+        record.reportField = spec.reportField;
+        record.value = spec.defaultValue;
+    }
+    return table;
+}
 
 } // namespace
 
@@ -28,9 +42,9 @@ Settings::Settings(QWidget *parent)
 Settings::Settings(const QStringList &portNames, QWidget *parent)
     : QWidget(parent)
     , ports(QStringList("Select Port") + portNames)
-    , bauds(SettingsTable::baudRates())
-    , formats(SettingsTable::chooserFormats())
-    , table(SettingsTable::build())
+    , bauds(SettingSpecs::find("baud")->words)
+    , formats(OutputFormats::names())
+    , table(defaultTable())
 {
     setDeviceType("TalVeroNew");
     initTalVeroNew();
@@ -103,164 +117,76 @@ QString Settings::getFieldAtLine(const char *report, int line, int field) const
 
 float Settings::changeSetting(const QString &key, const QString &value)
 {
-    const auto found = activeTable->find(key);
-    if (found == activeTable->end()) {
+    const SettingSpec *spec = SettingSpecs::find(key);
+    if (!spec) {
         DEBUG_LOG << "Unknown command" << key;
         return unknownKey;
     }
     DEBUG_LOG << "Changing " << key << " to " << value;
-    if (isKnownWord(key, value)) {
-        found->second.value = value;
+    const auto store =
+        spec->kind == ValueKind::Word ? &Settings::storeWord : &Settings::storeNumber;
+    return (this->*store)(*spec, value, activeTable->at(key).value);
+}
+
+float Settings::storeWord(const SettingSpec &spec, const QString &value, QString &stored)
+{
+    if (spec.log.change) {
+        DEBUG_LOG << spec.log.change << spec.key << " to " << value;
+    }
+    if (spec.words.contains(value)) {
+        stored = value;
         return acceptedWord;
     }
-    return storeNumber(key, value, found->second.value);
+    if (spec.log.refusal) {
+        DEBUG_LOG << spec.log.refusal;
+    }
+    return refused;
 }
 
-bool Settings::isKnownWord(const QString &key, const QString &value) const
+float Settings::storeNumber(const SettingSpec &spec, const QString &value, QString &stored)
 {
-    const std::pair<const char *, const QStringList &> lists[] = {
-        {"port", ports}, {"baud", bauds}, {"format", formats}};
-    for (const auto &[word, list] : lists) {
-        if (key.contains(word) && list.contains(value)) {
-            return true;
-        }
+    const ValueRules::StoredNumber held = ValueRules::held(spec, value);
+    if (spec.log.stored) {
+        DEBUG_LOG << spec.log.stored << held.number;
     }
-    if (key.contains("SounderMode")) {
-        DEBUG_LOG << "!!!!!!changing " << key << " to " << value;
-    }
-    const bool isKnown = ValueRules::wordsFor(key).contains(value);
-    if (!isKnown && key.contains("TVG")) {
-        DEBUG_LOG << " Doesn't contain value";
-    }
-    return isKnown;
-}
-
-float Settings::storeNumber(const QString &key, const QString &value, QString &stored)
-{
-    const auto held = ValueRules::numberFor(key, value);
-    if (!held) {
-        return refused;
-    }
-    if (ValueRules::isBlanking(key)) {
-        DEBUG_LOG << "value is" << held->number;
-    }
-    stored = held->text;
-    return held->number;
+    stored = held.text;
+    return held.number;
 }
 
 void Settings::initTalVeroNew()
 {
-    const auto unchanged = [](const QString &field) { return field; };
-    for (const auto &entry : table) {
-        installCommand(entry.first, CommandEncoding::whole);
-        installReader(entry.first, unchanged);
-        installNumber(entry.first, NumberText::toFloat);
-    }
-    installOwnCommands();
-    installOwnReaders();
-    installOwnNumbers();
-}
-
-void Settings::installCommand(const QString &key, qint32 (*encode)(float))
-{
-    table[key].toCommand = [this, key, encode]() {
-        return CommandEncoding::fill(record(key)->commandFormat, encode(getSetting(key)));
-    };
-}
-
-void Settings::installReader(const QString &key, const FieldMeaning &meaning)
-{
-    table[key].parseFromReport = [this, key, meaning](const char *report) {
-        changeSetting(key, meaning(reportedField(key, report)));
-    };
-}
-
-void Settings::installNumber(const QString &key, float (*number)(const QString &value))
-{
-    table[key].toNumber = [this, key, number]() { return number(record(key)->value); };
-}
-
-void Settings::installOwnCommands()
-{
-    using namespace CommandEncoding;
-    installCommand("Depth", thousandths);
-    table["baud"].toCommand = [this]() { return baudCommand(); };
-    table["mode"].toCommand = [this]() { return getSetting("mode") > 0.0F ? "*b1" : "*h1"; };
-    installCommand("Velocity", velocity);
-    for (const char *key : {"highGain", "lowGain"}) {
-        installCommand(key, gain);
-    }
-    for (const char *key :
-         {"highBlank", "highDraft", "highIndex", "lowBlank", "lowDraft", "lowIndex"}) {
-        installCommand(key, thousandths);
+    for (const SettingSpec &spec : SettingSpecs::all()) {
+        SettingRecord &entry = table[spec.key];
+        entry.parseFromReport = [this, &spec](const char *report) { readReport(spec, report); };
+        entry.toCommand = [this, &spec]() { return commandOf(spec); };
+        entry.toNumber = [this, &spec]() { return numberOf(spec); };
     }
 }
 
-void Settings::installOwnReaders()
+void Settings::readReport(const SettingSpec &spec, const char *report)
 {
-    const auto withVelocity = [this](QString (*meaning)(const QString &field, float velocity)) {
-        return [this, meaning](const QString &field) {
-            return meaning(field, getSetting("Velocity"));
-        };
-    };
-    installReader("highSounderMode", SettingsReport::sounderMode);
-    installReader("lowSounderMode", SettingsReport::sounderMode);
-    installReader("highBlank", withVelocity(SettingsReport::blanking));
-    installReader("lowBlank", withVelocity(SettingsReport::blanking));
-    installReader("Depth", withVelocity(SettingsReport::maximumDepth));
-    installReader("highTVG", SettingsReport::tvg);
-    installReader("lowTVG", SettingsReport::tvg);
-    table["mode"].parseFromReport = [this](const char *) { changeSetting("mode", "Active"); };
-    table["format"].parseFromReport = [this](const char *report) {
-        readFormat(reportedField("format", report));
-    };
-}
-
-void Settings::installOwnNumbers()
-{
-    installNumber("mode", CommandEncoding::modeNumber);
-    installNumber("highTVG", CommandEncoding::tvgLetter);
-    installNumber("lowTVG", CommandEncoding::tvgLetter);
-    installNumber("format", CommandEncoding::formatNumber);
-    table["baud"].toNumber = [this]() {
-        return CommandEncoding::baudCode(record("baud")->value, bauds);
-    };
-    table["highSounderMode"].toNumber = [this]() {
-        return sounderModeNumber("highSounderMode", "am in highsoundermode toint mode is");
-    };
-    table["lowSounderMode"].toNumber = [this]() {
-        return sounderModeNumber("lowSounderMode", "am in lowsoundermode toint mode is");
-    };
-}
-
-QString Settings::baudCommand() const
-{
-    const auto code = [this]() { return CommandEncoding::whole(getSetting("baud")); };
-    const QByteArray format = record("baud")->commandFormat.toLatin1();
-    return QString::asprintf(format.constData(), code(), code(), code());
-}
-
-float Settings::sounderModeNumber(const QString &key, const char *message) const
-{
-    const QString &mode = record(key)->value;
-    DEBUG_LOG << message << mode;
-    return CommandEncoding::sounderModeLetter(mode);
-}
-
-QString Settings::reportedField(const QString &key, const char *report) const
-{
-    const SettingRecord *place = record(key);
-    return getFieldAtLine(report, place->reportLine, place->reportField);
-}
-
-void Settings::readFormat(const QString &field)
-{
-    const int number = NumberText::toInt(field);
-    DEBUG_LOG << "Format is " << number;
-    if (number < 1 || number > formats.size()) {
-        DEBUG_LOG << "format out of range!!!";
-        return;
+    const QString field = getFieldAtLine(report, spec.reportLine, spec.reportField);
+    if (spec.log.report) {
+        DEBUG_LOG << spec.log.report << NumberText::toInt(field);
     }
-    // The report counts the formats in the chooser's order, the set command in the device's own.
-    changeSetting("format", formats.at(number - 1));
+    const auto value = spec.fromReport(field, [this]() { return getSetting("Velocity"); });
+    if (value) {
+        changeSetting(spec.key, *value);
+    } else if (spec.log.reportRefusal) {
+        DEBUG_LOG << spec.log.reportRefusal;
+    }
+}
+
+QString Settings::commandOf(const SettingSpec &spec) const
+{
+    return spec.toCommand(spec.commandFormat, [this, &spec]() { return getSetting(spec.key); });
+}
+
+float Settings::numberOf(const SettingSpec &spec) const
+{
+    const QString &value = record(spec.key)->value;
+    if (spec.log.number) {
+        DEBUG_LOG << qPrintable(QString(spec.log.number).arg(spec.key.toLower())) << value;
+    }
+    return spec.toNumber(value);
 }

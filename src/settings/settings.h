@@ -9,6 +9,8 @@
 #include <QStringList>
 #include <QWidget>
 
+struct SettingSpec;
+
 /// The one holder of the sounder's settings. Everyone else names a setting by its key and never
 /// keeps a value. Values are metric throughout and are held to the device's ranges when stored, so
 /// that whatever stands here may be sent.
@@ -76,22 +78,11 @@ public slots:
     void goToImperial(bool showsFeet);
 
 private:
-    using FieldMeaning = std::function<QString(const QString &field)>;
-
-    void installCommand(const QString &key, qint32 (*encode)(float));
-    void installReader(const QString &key, const FieldMeaning &meaning);
-    void installNumber(const QString &key, float (*number)(const QString &value));
-    void installOwnCommands();
-    void installOwnReaders();
-    void installOwnNumbers();
-
-    bool isKnownWord(const QString &key, const QString &value) const;
-    float storeNumber(const QString &key, const QString &value, QString &stored);
-    void readFormat(const QString &field);
-
-    QString reportedField(const QString &key, const char *report) const;
-    QString baudCommand() const;
-    float sounderModeNumber(const QString &key, const char *message) const;
+    float storeWord(const SettingSpec &spec, const QString &value, QString &stored);
+    float storeNumber(const SettingSpec &spec, const QString &value, QString &stored);
+    void readReport(const SettingSpec &spec, const char *report);
+    QString commandOf(const SettingSpec &spec) const;
+    float numberOf(const SettingSpec &spec) const;
 
     QStringList ports;
     QStringList bauds;

@@ -5,6 +5,7 @@
 
 #include "commandencoding.h"
 #include "numbertext.h"
+#include "outputformat.h"
 
 #include <QByteArray>
 #include <QHash>
@@ -44,6 +45,26 @@ QString fieldAt(const char *report, int line, int field)
     const QByteArray wholeLine = QByteArray(report).trimmed().split('\n').value(line);
     const QByteArray values = wholeLine.split(':').value(1).trimmed();
     return QString::fromLatin1(values.split(' ').value(field - 1));
+}
+
+std::optional<QString> asWritten(const QString &field, const NumberSource & /*velocity*/)
+{
+    return field;
+}
+
+std::optional<QString> asFormat(const QString &field, const NumberSource & /*velocity*/)
+{
+    const std::vector<OutputFormat> &formats = OutputFormats::all();
+    const int number = NumberText::toInt(field);
+    if (number < 1 || number > static_cast<int>(formats.size())) {
+        return std::nullopt;
+    }
+    return formats[static_cast<std::size_t>(number - 1)].name;
+}
+
+std::optional<QString> asActive(const QString & /*field*/, const NumberSource & /*velocity*/)
+{
+    return "Active";
 }
 
 QString sounderMode(const QString &field)

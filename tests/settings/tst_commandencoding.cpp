@@ -111,23 +111,23 @@ void CommandEncodingTest::unknownWordsHaveANumber()
 
 void CommandEncodingTest::templatesAreFilled_data()
 {
-    QTest::addColumn<QString>("commandFormat");
+    QTest::addColumn<QByteArray>("commandFormat");
     QTest::addColumn<qint32>("number");
     QTest::addColumn<QString>("command");
 
-    QTest::newRow("padded") << "*v%04d" << 7 << "*v0007";
-    QTest::newRow("exactly as wide") << "*v%04d" << 1234 << "*v1234";
-    QTest::newRow("longer is not cut") << "*v%04d" << 500000 << "*v500000";
-    QTest::newRow("negative") << "*g%03d" << -42 << "*g-42";
-    QTest::newRow("least") << "*i%02d" << least << "*i-2147483648";
-    QTest::newRow("a character") << "*c%c" << 109 << "*cm";
-    QTest::newRow("no number in it") << "*b1" << 5 << "*b1";
-    QTest::newRow("empty") << "" << 5 << "";
+    QTest::newRow("padded") << QByteArray("*v%04d") << 7 << "*v0007";
+    QTest::newRow("exactly as wide") << QByteArray("*v%04d") << 1234 << "*v1234";
+    QTest::newRow("longer is not cut") << QByteArray("*v%04d") << 500000 << "*v500000";
+    QTest::newRow("negative") << QByteArray("*g%03d") << -42 << "*g-42";
+    QTest::newRow("least") << QByteArray("*i%02d") << least << "*i-2147483648";
+    QTest::newRow("a character") << QByteArray("*c%c") << 109 << "*cm";
+    QTest::newRow("no number in it") << QByteArray("*b1") << 5 << "*b1";
+    QTest::newRow("empty") << QByteArray("") << 5 << "";
 }
 
 void CommandEncodingTest::templatesAreFilled()
 {
-    QFETCH(QString, commandFormat);
+    QFETCH(QByteArray, commandFormat);
     QFETCH(qint32, number);
     QTEST(CommandEncoding::fill(commandFormat, number), "command");
 }

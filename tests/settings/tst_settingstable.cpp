@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "settings.h"
-#include "settingstable.h"
+#include "settingspec.h"
 
 #include <QSerialPortInfo>
 #include <QtTest>
@@ -88,7 +88,7 @@ void SettingsTableTest::eachSettingHasItsRow()
 
 void SettingsTableTest::thereAreNoOtherSettings()
 {
-    QCOMPARE(SettingsTable::build().size(), std::size_t(24));
+    QCOMPARE(SettingSpecs::all().size(), std::size_t(24));
 }
 
 void SettingsTableTest::keysAreCaseSensitive_data()
@@ -109,28 +109,27 @@ void SettingsTableTest::keysAreCaseSensitive()
 void SettingsTableTest::eachRecordHasItsThreeFunctions()
 {
     const Settings settings(QStringList{});
-    for (const auto &entry : SettingsTable::build()) {
-        const SettingRecord *record = settings.record(entry.first);
-        QVERIFY2(record->parseFromReport, qPrintable(entry.first));
-        QVERIFY2(record->toCommand, qPrintable(entry.first));
-        QVERIFY2(record->toNumber, qPrintable(entry.first));
+    for (const SettingSpec &spec : SettingSpecs::all()) {
+        const SettingRecord *record = settings.record(spec.key);
+        QVERIFY2(record->parseFromReport, qPrintable(spec.key));
+        QVERIFY2(record->toCommand, qPrintable(spec.key));
+        QVERIFY2(record->toNumber, qPrintable(spec.key));
     }
 }
 
 void SettingsTableTest::unusedFieldsStayEmpty()
 {
     const Settings settings(QStringList{});
-    for (const auto &entry : SettingsTable::build()) {
-        const SettingRecord *record = settings.record(entry.first);
-        QVERIFY2(record->spare.isEmpty(), qPrintable(entry.first));
-        QVERIFY2(!record->spareFunction, qPrintable(entry.first));
+    for (const SettingSpec &spec : SettingSpecs::all()) {
+        const SettingRecord *record = settings.record(spec.key);
+        QVERIFY2(record->spare.isEmpty(), qPrintable(spec.key));
+        QVERIFY2(!record->spareFunction, qPrintable(spec.key));
     }
 }
 
 void SettingsTableTest::anEmptyFunctionFailsWhenCalled()
 {
-    const SettingTable table = SettingsTable::build();
-    const SettingRecord &record = table.at("Ping");
+    const SettingRecord record;
     QVERIFY_EXCEPTION_THROWN(record.spareFunction(), std::bad_function_call);
     QVERIFY_EXCEPTION_THROWN(record.parseFromReport(""), std::bad_function_call);
     QVERIFY_EXCEPTION_THROWN(record.toCommand(), std::bad_function_call);

@@ -4,7 +4,7 @@
 #include "logcapture.h"
 #include "numbertext.h"
 #include "settings.h"
-#include "settingstable.h"
+#include "settingspec.h"
 #include "units.h"
 
 #include <QtTest>
@@ -106,8 +106,8 @@ void UnitsTest::switchingToFeetAndBackKeepsEveryValue()
     settings.changeSetting("lowBlank", "1.23");
     settings.changeSetting("Velocity", "1482.3");
     QHash<QString, QString> before;
-    for (const auto &entry : SettingsTable::build()) {
-        before.insert(entry.first, settings.getSettingString(entry.first));
+    for (const SettingSpec &spec : SettingSpecs::all()) {
+        before.insert(spec.key, settings.getSettingString(spec.key));
     }
     for (const bool imperial : {true, false}) {
         settings.goToImperial(imperial);
