@@ -4,18 +4,15 @@
 #include "replyvalues.h"
 
 #include "numbertext.h"
+#include "outputformat.h"
 #include "units.h"
 
 #include <cmath>
-#include <iterator>
 #include <limits>
 
 namespace {
 
 constexpr double millimetresPerMetre = 1000.0;
-
-/// In the order of the sounder's numbers, which is not the order of the operator's list.
-constexpr int formatPlaces[] = {4, 2, 1, 0, 3, 5, 6, 7, 8};
 
 double thousandths(const QString &millimetres, bool imperial)
 {
@@ -51,9 +48,10 @@ int gainPercent(const QString &gain)
 
 int formatPlace(QChar number)
 {
-    const int index = number.unicode() - '1';
-    const bool known = index >= 0 && index < static_cast<int>(std::size(formatPlaces));
-    return known ? formatPlaces[index] : -1;
+    const bool isDigit = number >= QLatin1Char('0') && number <= QLatin1Char('9');
+    const OutputFormat *format =
+        isDigit ? OutputFormats::findByNumber(number.unicode() - '0') : nullptr;
+    return format ? format->placeInChooser : -1;
 }
 
 QChar letter(const QString &value) { return value.isEmpty() ? QChar() : value.at(0); }
