@@ -23,16 +23,33 @@ inline const char *debugLogFileName(const char *path)
 
 /// Begins a line of the debug log: file, line, qualified function and " : ", separated by blanks.
 /// The caller streams the message and its values; texts of type QString print in quotes.
-inline QDebug debugLogLine(const char *path, int line, const char *className, const char *function)
+inline QDebug debugLogLine(const QByteArray &file, int line, const char *className,
+                           const char *function)
 {
     const QByteArray qualified = QByteArray(className) + "::" + function;
     QDebug log(QtDebugMsg);
-    log << debugLogFileName(path) << line << qualified.constData() << " : ";
+    log << file.constData() << line << qualified.constData() << " : ";
     return log;
+}
+
+/// The same for a part of the window's work that another class does.
+inline QDebug windowLogLine(const char *path, int line, const char *function)
+{
+    return debugLogLine(QByteArray("mainwindow_") + debugLogFileName(path), line, "MainWindow",
+                        function);
 }
 
 /// For use inside member functions of a Q_OBJECT class, whose name it prints. (A compiler's own
 /// "pretty" function names differ from one compiler to the next; these do not.)
-#define DEBUG_LOG debugLogLine(__FILE__, __LINE__, staticMetaObject.className(), __func__)
+#define DEBUG_LOG                                                                                  \
+    debugLogLine(debugLogFileName(__FILE__), __LINE__, staticMetaObject.className(), __func__)
+
+/// For classes that do a part of the window's work. Whoever searches in logs knows what the window
+/// does by the window's name ("mainwindow_commandqueue.cpp 57 MainWindow::sendLatestCommand"),
+/// however it divides that work.
+#define WINDOW_LOG windowLogLine(__FILE__, __LINE__, __func__)
+
+/// The same in the name of another function, of which this one is a part.
+#define WINDOW_LOG_AS(function) windowLogLine(__FILE__, __LINE__, function)
 
 #endif // DEBUGLOG_H

@@ -83,6 +83,16 @@ ReplyKind replyKind(const QString &line) { return firstMark(line, replyMarks, Re
 
 QStringList replyPieces(const QString &line) { return line.mid(1).split(QLatin1Char(',')); }
 
+SettingsReply readReply(const QString &line, const QStringList &pieces)
+{
+    SettingsReply reply{replyKind(line), {}};
+    reply.pieces.reserve(pieces.size());
+    for (const QString &piece : pieces) {
+        reply.pieces.append(readReplyPiece(piece, reply.kind));
+    }
+    return reply;
+}
+
 ReplyPiece readReplyPiece(const QString &piece, ReplyKind kind)
 {
     const int letterAt = kind == ReplyKind::Common ? 0 : 1;

@@ -81,6 +81,16 @@ ReplyKind replyKind(const QString &line);
 /// The comma-separated pieces of a reply line without its first character ("*"). Empty pieces stay.
 QStringList replyPieces(const QString &line);
 
+/// A line of the settings reply, read.
+struct SettingsReply
+{
+    ReplyKind kind = ReplyKind::None;
+    QVector<ReplyPiece> pieces;
+};
+
+/// The kind of the line and its pieces (as replyPieces() gives them), each as letter and value.
+SettingsReply readReply(const QString &line, const QStringList &pieces);
+
 /// A piece as letter and value. In a channel line the setting's letter follows the channel's
 /// ("Hg064" is 'g', "064"), in the common line it stands first ("v1500000"). A piece too short to
 /// hold a letter has the null character, which names no setting.

@@ -4,18 +4,17 @@
 #ifndef MAINWINDOW_H
 #define MAINWINDOW_H
 
-#include "channel.h"
+#include "channelpane.h"
+#include "commonfields.h"
 #include "depthgraph.h"
-#include "depthsentence.h"
 #include "infoform.h"
-#include "portlister.h"
-#include "protocol.h"
-#include "serialportlayer.h"
+#include "linksession.h"
+#include "portchooser.h"
+#include "settingeditor.h"
 #include "settings.h"
+#include "soundings.h"
 
-#include <QListView>
 #include <QMainWindow>
-#include <QStringList>
 #include <QTimer>
 
 #include <memory>
@@ -24,16 +23,10 @@ namespace Ui {
 class MainWindow;
 }
 
-/// The colours in which the info line speaks, as its rich text names them.
-namespace InfoColour {
-constexpr char progress[] = "black";
-constexpr char success[] = "Green";
-constexpr char failure[] = "Red";
-} // namespace InfoColour
-
-/// The operator's window and the controller behind it: turns clicks into settings and commands, and
-/// what the sounder sends into what the window shows. It owns the settings, the serial link, the
-/// depth graph and the help window. Each banner below names the file that implements what follows.
+/// The operator's window. It owns the settings, the session with the sounder, the depth graph and
+/// the help window, and connects them to the form: what the operator does goes to the setting
+/// editor and to the session, what the session tells is shown. Each banner below names the file
+/// that implements what follows.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -58,9 +51,10 @@ signals:
     void setFrequency(QString freq);
 
 private slots:
-    // The order of the slots is fixed: others may refer to them by index.
+    // The order of the slots is fixed: Qt numbers them in it, and others may call them by number as
+    // well as by name. All stand in mainwindow_slots.cpp, each in one line that says what it leads
+    // to. The form's controls reach theirs by name.
 
-    // ---- mainwindow_link.cpp and mainwindow_reports.cpp: the link
     void updateSerialPorts();
     void connectionFailed();
     void connectionSucceeded();
@@ -69,20 +63,16 @@ private slots:
     void getLatestTemperature();
     void on_connectToDevice_clicked();
 
-    // ---- mainwindow.cpp: lists, info line, test data, window actions
     void on_portComboBox_currentTextChanged(const QString &newStr);
     void on_baudComboBox_currentTextChanged(const QString &newStr);
     void clearInfoText();
 
-    // ---- mainwindow_queue.cpp
     void sendLatestCommand();
 
-    // ---- mainwindow.cpp, continued
     void addFakeData();
     void on_hamburgerButton_clicked();
     void on_openGraph_clicked();
 
-    // ---- mainwindow_actions.cpp: what is not the edit of one setting
     void on_saveSettings_clicked();
     void on_saveSettingsToDevice_clicked();
     void on_resetSettings_clicked();
@@ -90,7 +80,6 @@ private slots:
     void on_BootloadButton_clicked();
     void on_autoSave_toggled(bool selected);
 
-    // ---- mainwindow_fields.cpp: up and down buttons, Return in an edit
     void on_pingDown_clicked();
     void on_pingUp_clicked();
     void on_soundVelocityUp_clicked();
@@ -138,7 +127,6 @@ private slots:
     void on_lowFreq_returnPressed();
     void on_lowBlank_returnPressed();
 
-    // ---- mainwindow_sliders.cpp
     void on_highPulseSlider_valueChanged(int position);
     void on_highGainSlider_valueChanged(int position);
     void on_highDetectSlider_valueChanged(int position);
@@ -148,7 +136,6 @@ private slots:
     void on_lowDetectSlider_valueChanged(int position);
     void on_lowBlankingSlider_valueChanged(int position);
 
-    // ---- mainwindow_options.cpp: modes, TVG
     void on_lowShallowRadio_toggled(bool checked);
     void on_lowAutoRadio_toggled(bool checked);
     void on_lowManualRadio_toggled(bool checked);
@@ -162,11 +149,9 @@ private slots:
     void on_highLog10Tvg_toggled(bool checked);
     void on_highLog20Tvg_toggled(bool checked);
 
-    // ---- mainwindow_units.cpp
     void on_imperialRadio_toggled(bool checked);
     void on_metricRadio_toggled(bool checked);
 
-    // ---- mainwindow_options.cpp: channels and output
     void on_enableHF_toggled(bool checked);
     void on_enableLF_toggled(bool checked);
     void on_disableHF_toggled(bool checked);
@@ -174,7 +159,6 @@ private slots:
     void on_formatComboBox_currentTextChanged(const QString &format);
     void on_newBaudComboBox_currentTextChanged(const QString &rate);
 
-    // ---- mainwindow_actions.cpp: help
     void on_selectRateInfo_clicked();
     void on_commonSettingsInfo_clicked();
     void on_highModeInfo_clicked();
@@ -198,150 +182,66 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
-    /// While one of these exists, the window fills itself: no edit handler acts, nothing is sent.
-    class PausedEdits;
-
-    // ---- mainwindow.cpp: construction and the info line
-    void styleLists();
-    void configureTimers();
+    // ---- mainwindow.cpp: construction
     void makeConnections();
-    void hideWhatIsNotOffered();
+    void connectSession();
     void initialize();
     void fillLists();
-    void setInfoText(const QString &text);
-    void setInfoText(const QString &colour, const QString &text);
-    void setInfoResult(const QString &colour, const QString &result);
 
-    // ---- mainwindow_link.cpp
-    bool openLink(const QString &port, const QString &rate);
-    void closeLink();
-    void connectAtRate();
-    void startSearch();
-    void disconnectFromDevice();
-    bool doAutoBaud();
-    void goOffline();
-    void failLink(const QString &message);
+    // ---- mainwindow_link.cpp: connecting, and what the unit is
+    void pressConnect();
+    void followLink(SessionState state);
     void setConnectButton(bool connected);
-    QStringList rateChoices() const;
+    void parseBanner(const Protocol::Banner &banner);
+    void setInfoText(InfoColour colour, const QString &text);
 
-    // ---- mainwindow_reports.cpp
-    void handleLine(const QString &line);
-    void acceptBanner(const QString &line);
-    void parseBanner(const QString &line);
-    void showFit(Protocol::ChannelFit fit);
-    void setFitted(Channel &channel, bool fitted);
-    void acknowledge(const QString &line);
-    void refuse(const QString &line);
-    void closeToReconnect();
-    void showIdentifier(const QString &line);
-    void showTemperature(const QString &line);
-    void showVoltage(const QString &line);
-    void showStatus(const QString &text);
-
-    // ---- mainwindow_settingsreply.cpp
-    void parseSetting(const QString &line);
-    void applyPiece(const Protocol::ReplyPiece &piece, Protocol::ReplyKind kind);
+    // ---- mainwindow_settingsreply.cpp: what the unit is set to
+    void parseSetting(const Protocol::SettingsReply &reply);
     void applyCommonPiece(const Protocol::ReplyPiece &piece);
-    void applyHighSwitch(const QString &value);
-    void applyLowSwitch(const QString &value);
-    void applySwitch(Channel &channel, const QString &value);
+    void applyChannelPiece(ChannelPane &pane, const Protocol::ReplyPiece &piece);
     void applyRate(const QString &value);
     void applyFormat(const QString &value);
-    void applyPings(const QString &value);
-    void applyMaxDepth(const QString &value);
-    void applyVelocity(const QString &value);
-    void applyChannelPiece(Channel &channel, const Protocol::ReplyPiece &piece);
-    void applyMode(Channel &channel, QChar mode);
+    void applyMode(ChannelPane &pane, QChar mode);
 
-    // ---- mainwindow_depths.cpp
+    // ---- mainwindow_depths.cpp: what the unit measures
     void parseDepth(const QString &line);
-    void noteSentence(const DepthSentence::Depths &depths);
-    void showDepth(Channel &channel, const char *prefix, float metres);
-    void showNmeaDepth(const QString &line, const DepthSentence::Depths &depths, bool isLow);
 
     // ---- mainwindow_controls.cpp: what can be used when
     void updateControls();
-    void updateChannelControls(Channel &channel);
-    void placeLostFocus();
-    void lockForFormat();
-    void setChildrenDisabled(QWidget *widget, bool disabled);
+    void allow(const ControlRules::Usable &usable);
+    ControlRules::State controlState() const;
 
-    // ---- mainwindow_queue.cpp
-    void triggerChange(const QString &name, const QString &value);
-    void mergeRepeatsOfFirst();
-    QString announcedValue(const QString &name) const;
-
-    // ---- mainwindow_fields.cpp
-    int changeField(QLineEdit *edit, const QString &name, float step);
-    int changeField(QLineEdit *edit, const QString &name, float step, bool inImperial);
-    void changeMaxDepth(float step);
-    void enterBlanking(Channel &channel);
-    Channel &channelOf(const QString &name);
-
-    // ---- mainwindow_sliders.cpp
-    void changeSliderWithClick(QLabel *label, QSlider *slider, const QString &name, int delta);
-    void setSliderField(QLabel *label, QSlider *slider, const QString &name, int position);
-    float changeField(QLabel *label, const QString &name, float value);
-    float changeField(QLabel *label, const QString &name, float value, bool inImperial);
-    void slideTo(QLabel *label, const QString &name, int position);
-    void slideBlanking(Channel &channel);
-
-    // ---- mainwindow_options.cpp
-    void changeStringSetting(const QString &name, const QString &value);
-    void chooseWord(bool checked, const QString &name, const QString &word);
-    void chooseMode(bool checked, Channel &channel, const QString &mode);
+    // ---- mainwindow_options.cpp: modes, channels, output, unit of display
+    void chooseMode(bool checked, ChannelPane &pane, const QString &mode);
     void followHighShallow(bool shallow);
-    void switchChannel(bool checked, Channel &channel, bool on, const QString &announcement,
+    void switchChannel(bool checked, ChannelPane &pane, bool on, const QString &announcement,
                        const char *command);
+    void chooseFormat(const QString &format);
+    void changeMaxDepth(int direction);
+    void setImperialDisplay(bool imperial);
 
-    // ---- mainwindow_units.cpp
-    void setImperialDisplay(bool inImperial);
-
-    // ---- mainwindow_actions.cpp
+    // ---- mainwindow_actions.cpp: what is not the edit of one setting
+    void resetToFactory();
+    void updateFirmware();
+    void rememberAutoSave(bool selected);
+    void toggleFooter();
     void showHelp(const QString &topic);
 
-    QString version;
     std::unique_ptr<Ui::MainWindow> ui;
-    QSize normalSize;
-    QListView *portListView;
-    QListView *baudListView;
-    QListView *formatListView;
-    QListView *newBaudListView;
-    PortLister listPorts;
-    QString deviceType; ///< "HF", "LF" or "DUAL": the channels of the connected device
     Settings settings;
-    bool commandInFlight = false;
-    bool connecting = false;
-    bool autoBaud = false;
-    bool imperial = false;
-    bool connectButtonState = false;
-    QString unitSuffix;
-    QString lastInfoText;
-    int userEdits = 1; ///< 0 while the window fills itself
-    SerialPortLayer serial;
-    QStringList knownPorts;
-    QTimer infoTimer{this};
-    QTimer commandTimer{this};
-    QTimer portScanTimer{this};
-    QTimer answerTimer{this};
-    QTimer temperatureTimer{this};
-    QTimer resizeTimer{this}; ///< its running alone counts: a silence meanwhile is forgiven
-    QStringList pendingChanges;
-    depthGraph graph;
+    LinkSession session;
+    PortChooser ports;
+    SettingEditor editor;
+    CommonFields common;
+    ChannelPane high;
+    ChannelPane low;
+    Soundings soundings;
+    Protocol::ChannelFit fit = Protocol::ChannelFit::Unknown; ///< of the unit connected last
+    bool formatLocked = false; ///< the output format fixes rate, modes and gain law
     bool autoSave = false;
+    depthGraph graph;
     InfoForm info;
-    bool highModeLocked = false;
-    bool lowModeLocked = false;
-    bool highDisabled = false;
-    bool lowDisabled = false;
-    bool offline = false;
-    bool formatLocked = false;
-    bool settingsReceived = false; ///< since the start; noted, not yet asked by anything
-    float lastHfDepth = DepthSentence::noDepth;
-    float lastLfDepth = DepthSentence::noDepth;
-    float fakeDataCount = 0.0F;
-    Channel high;
-    Channel low;
+    QTimer resizeTimer{this}; ///< its running alone counts: a silence meanwhile is forgiven
 };
 
 #endif // MAINWINDOW_H

@@ -7,75 +7,56 @@
 
 #include <QPointer>
 
-void MainWindow::setChildrenDisabled(QWidget *widget, bool disabled)
-{
-    const QList<QWidget *> descendants = widget->findChildren<QWidget *>();
-    for (QWidget *descendant : descendants) {
-        descendant->setDisabled(disabled);
-    }
-}
-
-void MainWindow::updateControls()
-{
-    const QPointer<QWidget> focused = focusWidget();
-    QWidget *const connectionControls[] = {ui->portComboBox, ui->baudComboBox, ui->imperialRadio,
-                                           ui->metricRadio};
-    for (QWidget *control : connectionControls) {
-        control->setEnabled(offline);
-    }
-    QWidget *const deviceControls[] = {
-        ui->commonHolder,  ui->commonSettingsInfo,   ui->highFreqTab,
-        ui->lowFreqTab,    ui->newBaudComboBox,      ui->formatComboBox,
-        ui->resetSettings, ui->saveSettingsToDevice, ui->openGraph,
-    };
-    for (QWidget *control : deviceControls) {
-        control->setEnabled(!offline);
-    }
-    ui->temperatureLabel->clear();
-    for (Channel *channel : {&high, &low}) {
-        updateChannelControls(*channel);
-    }
-    if (lowDisabled) {
-        ui->lowDepthLabel->clear();
-    }
-    ui->label_30->setEnabled(false);
-    if (!offline) {
-        lockForFormat();
-    }
-    if (focused != nullptr && !focused->isEnabled()) {
-        placeLostFocus();
-    }
-}
+namespace {
 
 /// Qt drops the focus of a control that is switched off with all that is around it: the operator's
 /// next keys would go nowhere.
-void MainWindow::placeLostFocus()
+void placeLostFocus(const QWidget &window, const Ui::MainWindow &form, bool isConnected)
 {
-    if (offline) {
-        ui->connectToDevice->setFocus(); // what is done next
-    } else if (focusWidget() == nullptr) {
-        ui->h->setFocus();
+    if (!isConnected) {
+        form.connectToDevice->setFocus(); // what is done next
+    } else if (window.focusWidget() == nullptr) {
+        form.h->setFocus();
     }
 }
 
-void MainWindow::updateChannelControls(Channel &channel)
+} // namespace
+
+ControlRules::State MainWindow::controlState() const
 {
-    for (QWidget *area : {channel.modeColumn, channel.tvgColumn, channel.lowerPart}) {
-        setChildrenDisabled(area, *channel.disabled);
-    }
-    setChildrenDisabled(channel.manualGroup, *channel.modeLocked || *channel.disabled);
+    return {session.state(), high.state, low.state, formatLocked};
 }
 
-/// The KESTROLA format fixes the device's rate, modes and gain law. The format list itself stays
-/// usable, or the operator could never leave that format.
-void MainWindow::lockForFormat()
+void MainWindow::updateControls() { allow(ControlRules::usable(controlState())); }
+
+void MainWindow::allow(const ControlRules::Usable &usable)
 {
-    setChildrenDisabled(ui->outputRateHolder, formatLocked);
-    ui->newBaudComboBox->setDisabled(formatLocked);
-    for (Channel *channel : {&high, &low}) {
-        if (!*channel->disabled) {
-            setChildrenDisabled(channel->modeColumn, formatLocked);
-            setChildrenDisabled(channel->tvgColumn, formatLocked);
-        }
+    using ControlRules::CommonGroup;
+    const QPointer<QWidget> focused = focusWidget();
+    const bool isConnected = usable.common.testFlag(CommonGroup::Device);
+    QWidget *const connectionControls[] = {ui->portComboBox, ui->baudComboBox, ui->imperialRadio,
+                                           ui->metricRadio};
+    for (QWidget *control : connectionControls) {
+        control->setEnabled(usable.common.testFlag(CommonGroup::Connection));
+    }
+    QWidget *const deviceControls[] = {
+        ui->commonHolder,   ui->commonSettingsInfo, ui->highFreqTab,          ui->lowFreqTab,
+        ui->formatComboBox, ui->resetSettings,      ui->saveSettingsToDevice, ui->openGraph,
+    };
+    for (QWidget *control : deviceControls) {
+        control->setEnabled(isConnected);
+    }
+    ui->newBaudComboBox->setEnabled(usable.common.testFlag(CommonGroup::OutputRate));
+    ui->newBaudLabel->setDisabled(formatLocked);
+    ui->temperatureLabel->clear();
+    session.forgetStatus();
+    high.allow(usable.high);
+    low.allow(usable.low);
+    if (low.state.isOff()) {
+        low.depth->clear();
+    }
+    ui->label_30->setEnabled(false);
+    if (focused != nullptr && !focused->isEnabled()) {
+        placeLostFocus(*this, *ui, isConnected);
     }
 }

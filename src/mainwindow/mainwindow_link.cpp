@@ -3,17 +3,63 @@
 
 #include "mainwindow.h"
 
-#include "debuglog.h"
 #include "ui_mainwindow.h"
 
 #include <QMessageBox>
 
+#include <algorithm>
+#include <iterator>
+
 namespace {
 
-constexpr char noPortChosen[] = "Select Port";
-constexpr char noRateChosen[] = "Select Rate";
-constexpr char searchRates[] = "Auto";
-constexpr char lastRate[] = "115200";
+/// What a fit means: the name that the graph is told, the title's words and which channels there
+/// are.
+struct FitMeaning
+{
+    Protocol::ChannelFit fit;
+    const char *frequency;
+    const char *titleWords;
+    bool hasHigh;
+    bool hasLow;
+};
+
+constexpr FitMeaning fitMeanings[] = {
+    {Protocol::ChannelFit::HighOnly, "HF", " (High Frequency Only)", true, false},
+    {Protocol::ChannelFit::LowOnly, "LF", " (Low Frequency Only)", false, true},
+    {Protocol::ChannelFit::Dual, "Dual", " (Dual Frequency)", true, true},
+};
+
+const FitMeaning *meaningOf(Protocol::ChannelFit fit)
+{
+    const auto *const found =
+        std::find_if(std::begin(fitMeanings), std::end(fitMeanings),
+                     [fit](const FitMeaning &meaning) { return meaning.fit == fit; });
+    return found == std::end(fitMeanings) ? nullptr : found;
+}
+
+/// A unit that has just named itself: which channels are on is what it tells next.
+ControlRules::ChannelState identifiedChannel(ControlRules::ChannelState state, bool fitted)
+{
+    state.fitted = fitted;
+    state.switchedOn = true;
+    state.resting = false;
+    state.switchHeld = false;
+    return state;
+}
+
+/// The colours in which the info line speaks, as its rich text names them.
+const char *colourName(InfoColour colour)
+{
+    switch (colour) {
+    case InfoColour::Success:
+        return "Green";
+    case InfoColour::Failure:
+        return "Red";
+    case InfoColour::Progress:
+        break;
+    }
+    return "black";
+}
 
 void showError(QWidget *parent, const char *text)
 {
@@ -22,164 +68,57 @@ void showError(QWidget *parent, const char *text)
 
 } // namespace
 
-QStringList MainWindow::rateChoices() const
+void MainWindow::pressConnect()
 {
-    return QStringList{noRateChosen, searchRates} + settings.baudList();
+    switch (session.press()) {
+    case LinkSession::Press::NotChosen:
+        showError(this, "No Port or Rate Selected, Please select a port to connect to");
+        break;
+    case LinkSession::Press::NotOpened:
+        showError(this, "Could Not Open Serial Port. Please unplug device then try again.");
+        break;
+    case LinkSession::Press::Underway:
+    case LinkSession::Press::Disconnected:
+        break;
+    }
 }
 
-void MainWindow::updateSerialPorts()
+void MainWindow::followLink(SessionState state)
 {
-    const QString chosen = ui->portComboBox->currentText();
-    const QStringList found = listPorts();
-    if (found == knownPorts) {
-        return; // an open list and the operator's choice stay undisturbed
-    }
-    knownPorts = found;
-    ui->portComboBox->clear();
-    ui->portComboBox->addItem(noPortChosen);
-    ui->portComboBox->addItems(found);
-    if (found.contains(chosen)) {
-        ui->portComboBox->setCurrentText(chosen);
-    }
+    updateControls();
+    setConnectButton(state != SessionState::Offline);
 }
 
 void MainWindow::setConnectButton(bool connected)
 {
-    connectButtonState = connected;
     ui->connectToDevice->setText(connected ? "Disconnect" : "Connect   ");
     ui->connectToDevice->setIcon(QIcon(connected ? ":/resourcefiles/images/connected.png"
                                                  : ":/resourcefiles/images/not_connected.png"));
     if (connected) {
-        portScanTimer.stop();
+        ports.timer().stop();
     } else {
-        portScanTimer.start();
+        ports.timer().start();
     }
 }
 
-void MainWindow::on_connectToDevice_clicked()
+void MainWindow::parseBanner(const Protocol::Banner &banner)
 {
-    if (serial.isConnected() || connecting || autoBaud) {
-        disconnectFromDevice();
-        return;
+    QString title = banner.namesTalVero ? QStringLiteral("TAL-VERO") : QString();
+    title += " Firmware Version: " + banner.firmwareVersion;
+    if (const FitMeaning *meaning = meaningOf(banner.fit)) {
+        title += meaning->titleWords;
+        fit = banner.fit;
+        high.state = identifiedChannel(high.state, meaning->hasHigh);
+        low.state = identifiedChannel(low.state, meaning->hasLow);
+        allow(ControlRules::usableUponIdentification(controlState()));
+        emit setFrequency(meaning->frequency);
+        ui->h->setCurrentWidget(meaning->hasHigh ? ui->highFreqTab : ui->lowFreqTab);
     }
-    if (ui->portComboBox->currentText() == noPortChosen ||
-        ui->baudComboBox->currentText() == noRateChosen) {
-        showError(this, "No Port or Rate Selected, Please select a port to connect to");
-        return;
-    }
-    if (ui->baudComboBox->currentText() == searchRates) {
-        startSearch();
-    } else {
-        connectAtRate();
-    }
+    ui->label_34->setText(title);
 }
 
-void MainWindow::startSearch()
+void MainWindow::setInfoText(InfoColour colour, const QString &text)
 {
-    DEBUG_LOG << "GOING AUTO!";
-    autoBaud = true;
-    doAutoBaud();
-    setConnectButton(true);
-    serial.sendCommand(Protocol::Command::connectProbe);
-    answerTimer.start();
+    ui->infoLabel->setText(QStringLiteral("<font color='") + colourName(colour) + "'>" + text +
+                           "</font>");
 }
-
-void MainWindow::connectAtRate()
-{
-    if (!openLink(ui->portComboBox->currentText(), ui->baudComboBox->currentText())) {
-        showError(this, "Could Not Open Serial Port. Please unplug device then try again.");
-        return;
-    }
-    DEBUG_LOG << "Opened Serial Port";
-    serial.sendCommand(Protocol::Command::connectProbe);
-    setInfoText(QStringLiteral("Connecting to Device"));
-    connecting = true;
-    answerTimer.start();
-    setConnectButton(true);
-}
-
-void MainWindow::disconnectFromDevice()
-{
-    DEBUG_LOG << "disconnecting from device";
-    closeLink();
-    connecting = false;
-    autoBaud = false;
-    setConnectButton(false);
-    setInfoText(QString());
-    goOffline();
-}
-
-bool MainWindow::openLink(const QString &port, const QString &rate)
-{
-    serial.portName = port;
-    serial.baudRate = rate;
-    return serial.openPort();
-}
-
-/// Closes the port and forgets what was awaited from it: neither this silence nor an old command's
-/// answer may speak into the next connection.
-void MainWindow::closeLink()
-{
-    serial.closePort();
-    answerTimer.stop();
-    commandInFlight = false;
-}
-
-/// Tries the next rate of the list. False when there is none left or the port does not open.
-bool MainWindow::doAutoBaud()
-{
-    if (ui->baudComboBox->currentText() == lastRate) {
-        return false;
-    }
-    ui->baudComboBox->setCurrentIndex(ui->baudComboBox->currentIndex() + 1);
-    const QString rate = ui->baudComboBox->currentText();
-    DEBUG_LOG << "current text is now " << rate;
-    closeLink();
-    if (!openLink(ui->portComboBox->currentText(), rate)) {
-        DEBUG_LOG << "Connection failed";
-        return false;
-    }
-    setInfoText("Trying " + rate + " baud");
-    answerTimer.start();
-    return true;
-}
-
-void MainWindow::goOffline()
-{
-    offline = true;
-    updateControls();
-    setConnectButton(false);
-}
-
-void MainWindow::failLink(const QString &message)
-{
-    goOffline();
-    setInfoText(InfoColour::failure, message);
-    closeLink();
-}
-
-void MainWindow::serialTimeout()
-{
-    DEBUG_LOG << "SERIAL TIMED OUT";
-    if (commandInFlight) {
-        setInfoResult(InfoColour::failure, " ... Command Timed Out");
-        commandInFlight = false;
-    } else if (connecting) {
-        connecting = false;
-        failLink(QStringLiteral("Could Not Connect To Device"));
-    } else if (autoBaud) {
-        if (!doAutoBaud()) {
-            autoBaud = false;
-            failLink(QStringLiteral("Could Not Connect To Device"));
-        }
-    } else if (resizeTimer.isActive()) {
-        // A window being resized may have held up the event loop, not the device the answer.
-        DEBUG_LOG << "Ignoring serial timeout because timer is active";
-    } else {
-        failLink(QStringLiteral("Lost Connection To Device"));
-    }
-}
-
-void MainWindow::connectionFailed() { DEBUG_LOG << "connection failed!"; }
-
-void MainWindow::connectionSucceeded() { DEBUG_LOG << "connection succeeded!"; }

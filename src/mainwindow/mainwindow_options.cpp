@@ -3,37 +3,55 @@
 
 #include "mainwindow.h"
 
-#include "debuglog.h"
+#include "numbertext.h"
+#include "outputformat.h"
 #include "ui_mainwindow.h"
+#include "units.h"
 
-void MainWindow::changeStringSetting(const QString &name, const QString &value)
-{
-    DEBUG_LOG << "Triggering";
-    if (settings.changeSetting(name, value) >= 0.0F) {
-        triggerChange(name, value);
-    } else {
-        DEBUG_LOG << "Should never get here! - internal setting string is incorrect";
-    }
-}
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QSlider>
 
-void MainWindow::chooseWord(bool checked, const QString &name, const QString &word)
-{
-    if (checked && userEdits != 0) {
-        changeStringSetting(name, word);
-    }
-}
+namespace {
 
-/// Auto and Shallow take the manual settings out of the operator's hands.
-void MainWindow::chooseMode(bool checked, Channel &channel, const QString &mode)
+/// The texts that stand in the window right after the unit was chosen. They are starting texts, not
+/// conversions: the device's values come with its next settings reply.
+struct StartingTexts
 {
-    if (!checked || userEdits == 0) {
+    const char *velocity;
+    const char *maxDepth;
+    ChannelPane::StartingTexts channel;
+};
+
+constexpr StartingTexts metricTexts = {"1500", "30", {"m", "0.40", "0.00", "0.45", "0.45 m"}};
+constexpr StartingTexts imperialTexts = {"4856", "100", {"ft", "1.00", "0.00", "1.00", "1.0 ft"}};
+
+/// Positions of the blanking sliders: hundredths of the shown unit. The low channel begins higher.
+struct BlankingRange
+{
+    int highest;
+    int lowestOfHigh;
+    int lowestOfLow;
+};
+
+constexpr BlankingRange metricRange = {1000, 30, 50};
+constexpr BlankingRange imperialRange = {3000, 100, 200};
+
+} // namespace
+
+/// Auto and Shallow take the manual settings out of the operator's hands; Shallow only on a channel
+/// that is on.
+void MainWindow::chooseMode(bool checked, ChannelPane &pane, const QString &mode)
+{
+    if (!checked || editor.isPaused()) {
         return;
     }
-    changeStringSetting(channel.key("SounderMode"), mode);
+    editor.changeStringSetting(pane.key("SounderMode"), mode);
+    const bool isOn = session.state() == SessionState::Connected && !pane.state.isOff();
     if (mode == QLatin1String("Manual")) {
-        *channel.modeLocked = false;
-    } else if (mode == QLatin1String("Auto") || channel.detectValue->isEnabled()) {
-        *channel.modeLocked = true;
+        pane.state.automatic = false;
+    } else if (mode == QLatin1String("Auto") || isOn) {
+        pane.state.automatic = true;
     }
     updateControls();
 }
@@ -42,71 +60,65 @@ void MainWindow::chooseMode(bool checked, Channel &channel, const QString &mode)
 /// shallow has no such effect on the high channel.
 void MainWindow::followHighShallow(bool shallow)
 {
-    if (userEdits == 0 || deviceType != QLatin1String("DUAL")) {
+    if (editor.isPaused() || fit != Protocol::ChannelFit::Dual) {
         return;
     }
-    setChildrenDisabled(low.enableColumn, shallow);
-    if (shallow) {
-        lowDisabled = true;
-    } else if (low.enable->isChecked()) {
-        lowDisabled = false;
+    low.state.switchHeld = shallow;
+    low.state.resting = shallow;
+    if (!shallow) {
+        low.state.switchedOn = low.enable->isChecked();
     }
     updateControls();
 }
 
 /// A channel is switched at once, past the queue: the transducer must stop pinging when asked to.
-void MainWindow::switchChannel(bool checked, Channel &channel, bool on, const QString &announcement,
-                               const char *command)
+void MainWindow::switchChannel(bool checked, ChannelPane &pane, bool on,
+                               const QString &announcement, const char *command)
 {
-    if (!checked || userEdits == 0) {
+    if (!checked || editor.isPaused()) {
         return;
     }
-    setInfoText(announcement);
-    serial.sendCommand(command);
-    *channel.disabled = !on;
-    if (on && !channel.manual->isChecked()) {
-        *channel.modeLocked = true;
+    session.sendAtOnce(announcement, command);
+    pane.state.switchedOn = on;
+    if (on) {
+        pane.state.resting = false;
+        pane.state.automatic = pane.state.automatic || !pane.manual->isChecked();
     }
     updateControls();
 }
 
-void MainWindow::on_formatComboBox_currentTextChanged(const QString &format)
+void MainWindow::chooseFormat(const QString &format)
 {
-    if (userEdits != 0) {
-        changeStringSetting("format", format);
-        formatLocked = format.contains(QLatin1String("KESTROLA"));
-        updateControls();
+    if (editor.isPaused()) {
+        return;
     }
+    editor.changeStringSetting("format", format);
+    const OutputFormat *chosen = OutputFormats::find(format);
+    formatLocked = chosen != nullptr && chosen->fixesOptions();
+    updateControls();
 }
 
-void MainWindow::on_newBaudComboBox_currentTextChanged(const QString &rate)
+void MainWindow::changeMaxDepth(int direction)
 {
-    chooseWord(true, "baud", rate);
+    editor.step(common.maxDepth, direction);
+    const float shown = NumberText::toFloat(common.maxDepth.edit->text());
+    emit setMaxDepth(Units::metric(shown, settings.isImperial()));
 }
 
-void MainWindow::on_highShallowRadio_toggled(bool checked)
+void MainWindow::setImperialDisplay(bool imperial)
 {
-    chooseMode(checked, high, "Shallow");
-    followHighShallow(checked);
+    const SettingEditor::Pause paused(editor);
+    const StartingTexts &texts = imperial ? imperialTexts : metricTexts;
+    const QString unit = texts.channel.unit;
+    emit goToImperial(imperial);
+    ui->soundVelocityLabel->setText("Sound Velocity (" + unit + "/s)");
+    ui->maxDepthLabel->setText("Max Depth (" + unit + ")");
+    ui->soundVelocityEdit->setText(texts.velocity);
+    ui->maxDepthEdit->setText(texts.maxDepth);
+    high.showStartingTexts(texts.channel);
+    low.showStartingTexts(texts.channel);
+
+    const BlankingRange &range = imperial ? imperialRange : metricRange;
+    high.blanking.slider->setRange(range.lowestOfHigh, range.highest);
+    low.blanking.slider->setRange(range.lowestOfLow, range.highest);
 }
-
-// clang-format off
-void MainWindow::on_enableHF_toggled(bool checked) { switchChannel(checked, high, true, "Enabling High Frequency", Protocol::Command::enableHighFrequency); }
-void MainWindow::on_disableHF_toggled(bool checked) { switchChannel(checked, high, false, "Disabling HF", Protocol::Command::disableHighFrequency); }
-void MainWindow::on_enableLF_toggled(bool checked) { switchChannel(checked, low, true, "Enabling Low Frequency", Protocol::Command::enableLowFrequency); }
-void MainWindow::on_disableLF_toggled(bool checked) { switchChannel(checked, low, false, "Disabling LF", Protocol::Command::disableLowFrequency); }
-
-void MainWindow::on_highAutoRadio_toggled(bool checked) { chooseMode(checked, high, "Auto"); }
-void MainWindow::on_highManualRadio_toggled(bool checked) { chooseMode(checked, high, "Manual"); }
-void MainWindow::on_lowShallowRadio_toggled(bool checked) { chooseMode(checked, low, "Shallow"); }
-void MainWindow::on_lowAutoRadio_toggled(bool checked) { chooseMode(checked, low, "Auto"); }
-void MainWindow::on_lowManualRadio_toggled(bool checked) { chooseMode(checked, low, "Manual"); }
-
-void MainWindow::on_highOffTvg_toggled(bool checked) { chooseWord(checked, high.key("TVG"), "OFF"); }
-void MainWindow::on_highLog10Tvg_toggled(bool checked) { chooseWord(checked, high.key("TVG"), "Log 10"); }
-void MainWindow::on_highLog20Tvg_toggled(bool checked) { chooseWord(checked, high.key("TVG"), "Log 20"); }
-
-void MainWindow::on_lowOffTvg_toggled(bool checked) { chooseWord(checked, low.key("TVG"), "OFF"); }
-void MainWindow::on_lowLog10Tvg_toggled(bool checked) { chooseWord(checked, low.key("TVG"), "Log 10"); }
-void MainWindow::on_lowLog20Tvg_toggled(bool checked) { chooseWord(checked, low.key("TVG"), "Log 20"); }
-// clang-format on

@@ -3,74 +3,62 @@
 
 #include "mainwindow.h"
 
-#include "channelreply.h"
-#include "debuglog.h"
 #include "numbertext.h"
-#include "pausededits.h"
+#include "outputformat.h"
 #include "replyvalues.h"
 #include "ui_mainwindow.h"
 
-void MainWindow::parseSetting(const QString &line)
+#include <QRadioButton>
+
+namespace {
+
+bool isAbout(const Protocol::ReplyPiece &piece, const char *setting)
 {
-    const PausedEdits paused(*this);
-    const QStringList pieces = Protocol::replyPieces(line);
-    DEBUG_LOG << "Settings" << pieces;
-    const Protocol::ReplyKind kind = Protocol::replyKind(line);
-    for (const QString &piece : pieces) {
-        applyPiece(Protocol::readReplyPiece(piece, kind), kind);
-    }
-    settingsReceived = true;
+    return piece.letter == QLatin1Char(SettingSpecs::find(setting)->replyLetter);
 }
 
-void MainWindow::applyPiece(const Protocol::ReplyPiece &piece, Protocol::ReplyKind kind)
+} // namespace
+
+void MainWindow::parseSetting(const Protocol::SettingsReply &reply)
 {
-    switch (kind) {
-    case Protocol::ReplyKind::Common:
-        applyCommonPiece(piece);
-        break;
-    case Protocol::ReplyKind::HighChannel:
-        applyChannelPiece(high, piece);
-        break;
-    case Protocol::ReplyKind::LowChannel:
-        applyChannelPiece(low, piece);
-        break;
-    case Protocol::ReplyKind::None:
-        break;
+    const SettingEditor::Pause paused(editor);
+    for (const Protocol::ReplyPiece &piece : reply.pieces) {
+        switch (reply.kind) {
+        case Protocol::ReplyKind::Common:
+            applyCommonPiece(piece);
+            break;
+        case Protocol::ReplyKind::HighChannel:
+            applyChannelPiece(high, piece);
+            break;
+        case Protocol::ReplyKind::LowChannel:
+            applyChannelPiece(low, piece);
+            break;
+        case Protocol::ReplyKind::None:
+            break;
+        }
     }
 }
 
 void MainWindow::applyCommonPiece(const Protocol::ReplyPiece &piece)
 {
-    using Apply = void (MainWindow::*)(const QString &);
-    static constexpr std::pair<char, Apply> letters[] = {
-        {'H', &MainWindow::applyHighSwitch}, {'L', &MainWindow::applyLowSwitch},
-        {'I', &MainWindow::applyRate},       {'a', &MainWindow::applyFormat},
-        {'i', &MainWindow::applyPings},      {'s', &MainWindow::applyMaxDepth},
-        {'v', &MainWindow::applyVelocity},
-    };
-    for (const auto &[letter, apply] : letters) {
-        if (piece.letter == QLatin1Char(letter)) {
-            (this->*apply)(piece.value);
+    const bool imperial = settings.isImperial();
+    common.pings.showReply(piece, imperial);
+    common.velocity.showReply(piece, imperial);
+    if (common.maxDepth.showReply(piece, imperial)) {
+        constexpr double millimetresPerMetre = 1000.0;
+        emit setMaxDepth(static_cast<float>(NumberText::toInt(piece.value) / millimetresPerMetre));
+    }
+    if (isAbout(piece, "baud")) {
+        applyRate(piece.value);
+    } else if (isAbout(piece, "format")) {
+        applyFormat(piece.value);
+    }
+    // The switches are no settings that a command could set a value of.
+    for (const auto &[letter, pane] : {std::pair{'H', &high}, std::pair{'L', &low}}) {
+        if (piece.letter == QLatin1Char(letter) && pane->showSwitch(piece.value)) {
+            updateControls();
         }
     }
-}
-
-void MainWindow::applyHighSwitch(const QString &value) { applySwitch(high, value); }
-
-void MainWindow::applyLowSwitch(const QString &value) { applySwitch(low, value); }
-
-/// "1" leaves the flag alone: the banner has cleared it where the unit carries the channel.
-void MainWindow::applySwitch(Channel &channel, const QString &value)
-{
-    if (value == QLatin1String("1")) {
-        channel.enable->setChecked(true);
-    } else if (value == QLatin1String("0")) {
-        channel.disable->setChecked(true);
-        *channel.disabled = true;
-    } else {
-        return;
-    }
-    updateControls();
 }
 
 /// The device tells at which rate it speaks. The link runs at that rate already, so the port stays
@@ -81,59 +69,43 @@ void MainWindow::applyRate(const QString &value)
         return; // a spoilt reply must not choose "Auto"
     }
     ui->newBaudComboBox->setCurrentText(value);
-    if (ui->baudComboBox->currentText() != value) {
-        ui->baudComboBox->setCurrentText(value);
-    }
+    ui->baudComboBox->setCurrentText(value);
     settings.changeSetting(QStringLiteral("baud"), value);
-    serial.baudRate = value;
+    session.followRate(value);
 }
 
 /// The lock means the format itself, however it came to be chosen.
 void MainWindow::applyFormat(const QString &value)
 {
-    const int place = ReplyValues::formatPlace(ReplyValues::letter(value));
-    if (place >= 0) {
-        ui->formatComboBox->setCurrentIndex(place);
-        formatLocked = ui->formatComboBox->currentText().contains(QLatin1String("KESTROLA"));
+    const int number = ReplyValues::letter(value).unicode() - '0';
+    if (const OutputFormat *format = OutputFormats::findByNumber(number)) {
+        ui->formatComboBox->setCurrentText(format->name);
+        formatLocked = format->fixesOptions();
         updateControls();
     }
 }
 
-void MainWindow::applyPings(const QString &value) { ui->pingEdit->setText(value); }
-
-void MainWindow::applyMaxDepth(const QString &value)
+void MainWindow::applyChannelPiece(ChannelPane &pane, const Protocol::ReplyPiece &piece)
 {
-    constexpr double millimetresPerMetre = 1000.0;
-    ui->maxDepthEdit->setText(ReplyValues::inShownUnit(value, imperial, 0));
-    emit setMaxDepth(static_cast<float>(NumberText::toInt(value) / millimetresPerMetre));
-}
-
-void MainWindow::applyVelocity(const QString &value)
-{
-    ui->soundVelocityEdit->setText(ReplyValues::inShownUnit(value, imperial, 0));
-}
-
-void MainWindow::applyChannelPiece(Channel &channel, const Protocol::ReplyPiece &piece)
-{
-    if (piece.letter == QLatin1Char('c')) {
-        applyMode(channel, ReplyValues::letter(piece.value));
+    if (isAbout(piece, "highSounderMode")) {
+        applyMode(pane, ReplyValues::letter(piece.value));
     } else {
-        showReplyPiece(channel, piece, {imperial, unitSuffix});
+        pane.showReply(piece, settings.isImperial());
     }
 }
 
-void MainWindow::applyMode(Channel &channel, QChar mode)
+void MainWindow::applyMode(ChannelPane &pane, QChar mode)
 {
     if (mode == QLatin1Char('a')) {
-        channel.automatic->setChecked(true);
-        *channel.modeLocked = true;
+        pane.automatic->setChecked(true);
+        pane.state.automatic = true;
     } else if (mode == QLatin1Char('m')) {
-        channel.manual->setChecked(true);
-        *channel.modeLocked = false;
-    } else if (mode == QLatin1Char('s') && &channel == &high) {
-        channel.shallow->setChecked(true);
-        *channel.modeLocked = true;
-        lowDisabled = true; // a unit in shallow mode pings on its high channel alone
+        pane.manual->setChecked(true);
+        pane.state.automatic = false;
+    } else if (mode == QLatin1Char('s') && &pane == &high) {
+        pane.shallow->setChecked(true);
+        pane.state.automatic = true;
+        low.state.resting = true; // a unit in shallow mode pings on its high channel alone
     } else {
         return;
     }

@@ -9,20 +9,14 @@
 
 #include <memory>
 
-// No control of the form queues a setting that does not exist, but what the queue does with one
-// must be seen all the same. An explicit instantiation may name a private member.
-template <void (MainWindow::*entry)(const QString &, const QString &)>
-struct QueueEntry
-{
-    friend void queueChange(MainWindow &window, const QString &name)
-    {
-        (window.*entry)(name, QStringLiteral("1"));
-    }
-};
-template struct QueueEntry<&MainWindow::triggerChange>;
-void queueChange(MainWindow &window, const QString &name);
-
 namespace {
+
+/// No control of the form queues a setting that does not exist, but what the queue does with one
+/// must be seen all the same.
+void queueChange(MainWindow &window, const QString &name)
+{
+    window.findChild<CommandQueue *>()->triggerChange(name, QStringLiteral("1"));
+}
 
 constexpr int pauseMs = 500;
 

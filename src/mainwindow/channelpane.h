@@ -1,0 +1,101 @@
+// SPDX-FileCopyrightText: 2026 The TAL-VERO Connect developers
+// SPDX-License-Identifier: MIT
+
+#ifndef CHANNELPANE_H
+#define CHANNELPANE_H
+
+#include "controlrules.h"
+#include "numberfield.h"
+#include "protocol.h"
+
+#include <QString>
+
+class QLabel;
+class QRadioButton;
+class QWidget;
+
+/// One channel of the sounder on the form: its controls and the state that decides what can be used
+/// of it. What the high and the low channel have in common is written once against this.
+class ChannelPane
+{
+    const QWidget &form;
+    QString prefix;
+
+public:
+    /// Gathers the channel's controls from the form. `prefix` ("high", "low") begins their names,
+    /// `radioSuffix` ("HF", "LF") ends those of the enable and disable buttons. A control that is
+    /// not there ends the program with its name.
+    ChannelPane(const QWidget &form, const QString &prefix, const QString &radioSuffix);
+
+    /// The setting's key for this channel: "highDraft" for "Draft".
+    QString key(const char *setting) const { return prefix + QLatin1String(setting); }
+
+    /// Lets exactly these groups be used. Of a channel that the unit lacks nothing can be.
+    void allow(ControlRules::ChannelGroups groups) const;
+
+    /// Names the unit in the captions and shows these starting texts.
+    struct StartingTexts
+    {
+        const char *unit;
+        const char *draft;
+        const char *index;
+        const char *blanking;
+        const char *blankingValue;
+    };
+    void showStartingTexts(const StartingTexts &texts) const;
+
+    /// Fills the control that the piece of a settings reply speaks of, in feet if `imperial`. The
+    /// sounder mode and letters that no control has change nothing.
+    void showReply(const Protocol::ReplyPiece &piece, bool imperial) const;
+
+    /// Shows whether the unit pings on this channel: "1" or "0"; anything else changes nothing. "1"
+    /// leaves the state alone: the banner has cleared it if the unit carries the channel. Whether
+    /// the value was one of the two.
+    bool showSwitch(const QString &value);
+
+    ControlRules::ChannelState state;
+
+    QRadioButton *enable;
+    QRadioButton *disable;
+    QRadioButton *shallow;
+    QRadioButton *automatic;
+    QRadioButton *manual;
+    QRadioButton *tvgOff;
+    QRadioButton *tvgLog10;
+    QRadioButton *tvgLog20;
+    QLabel *depth;
+
+    NumberField pulse;
+    NumberField gain;
+    NumberField detect;
+    NumberField draft;
+    NumberField index;
+    NumberField frequency;
+    NumberField blanking;
+
+private:
+    struct FieldRow;
+
+    template <typename Widget>
+    Widget *find(const char *name) const;
+
+    void showTvg(const QString &value) const;
+
+    static const FieldRow fieldRows[];
+
+    QWidget *upperRow; ///< holds the three columns
+    QWidget *enableColumn;
+    QWidget *modeColumn;
+    QWidget *tvgColumn;
+    QWidget *lowerPart; ///< holds the manual settings and the inputs
+    QWidget *manualGroup;
+    QLabel *draftCaption;
+    QLabel *indexCaption;
+    QLabel *blankingCaption;
+};
+
+/// Lets all that stands below this widget be used, or nothing of it; the widget itself stays as it
+/// is.
+void setChildrenDisabled(const QWidget *widget, bool disabled);
+
+#endif // CHANNELPANE_H

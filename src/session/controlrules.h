@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 The TAL-VERO Connect developers
+// SPDX-License-Identifier: MIT
+
+#ifndef CONTROLRULES_H
+#define CONTROLRULES_H
+
+#include "sessionstate.h"
+
+#include <QFlags>
+
+/// What the operator can use when. Pure functions.
+namespace ControlRules {
+
+/// One channel, for the question of what can be used of it.
+struct ChannelState
+{
+    bool fitted = true;      ///< the unit carries it
+    bool switchedOn = true;  ///< by the operator, or as the unit tells
+    bool resting = false;    ///< while the other channel pings alone
+    bool switchHeld = false; ///< its on and off buttons wait for the end of that rest
+    bool automatic = false;  ///< Auto or Shallow: the manual settings do not apply
+
+    /// Whether it pings not, for whatever reason.
+    bool isOff() const { return !fitted || !switchedOn || resting; }
+};
+
+struct State
+{
+    SessionState link = SessionState::Offline;
+    ChannelState high;
+    ChannelState low;
+    bool formatFixesOptions = false; ///< the output format fixes rate, modes and gain law
+};
+
+/// Controls that can be used or not together.
+enum class CommonGroup {
+    Connection = 1, ///< port, rate and unit
+    Device = 2,     ///< what concerns the connected unit as a whole
+    OutputRate = 4, ///< the rate of the unit
+};
+Q_DECLARE_FLAGS(CommonGroups, CommonGroup)
+
+/// Of one channel.
+enum class ChannelGroup {
+    Enable = 1, ///< on and off
+    Mode = 2,   ///< shallow, auto, manual
+    Tvg = 4,    ///< the gain's variation with time
+    Inputs = 8, ///< draft, index, frequency, blanking
+    Manual = 16 ///< pulse cycles, gain, detection
+};
+Q_DECLARE_FLAGS(ChannelGroups, ChannelGroup)
+
+/// The groups that can be used; no other can.
+struct Usable
+{
+    CommonGroups common;
+    ChannelGroups high;
+    ChannelGroups low;
+};
+
+/// What can be used in this state.
+Usable usable(const State &state);
+
+/// What can be used right after the unit has named itself: of each channel that it carries
+/// everything, since neither modes nor format are known until its settings have come.
+Usable usableUponIdentification(const State &state);
+
+} // namespace ControlRules
+
+Q_DECLARE_OPERATORS_FOR_FLAGS(ControlRules::CommonGroups)
+Q_DECLARE_OPERATORS_FOR_FLAGS(ControlRules::ChannelGroups)
+
+#endif // CONTROLRULES_H

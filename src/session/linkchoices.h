@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 The TAL-VERO Connect developers
+// SPDX-License-Identifier: MIT
+
+#ifndef LINKCHOICES_H
+#define LINKCHOICES_H
+
+#include <QString>
+
+/// What stands in the lists from which the operator chooses how to reach the sounder, and how the
+/// sounder is to speak. The window notes every change here, so that the link knows them without
+/// looking at the window.
+struct LinkChoices
+{
+    /// The entry of the port list that is no port.
+    static constexpr char noPort[] = "Select Port";
+
+    QString port;       ///< as the port list names it
+    QString rate;       ///< of the link: an entry of RateSearch::choices()
+    QString deviceRate; ///< at which the sounder is to speak
+    QString format;     ///< in which the sounder is to output its depths
+};
+
+#endif // LINKCHOICES_H

@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The TAL-VERO Connect developers
+// SPDX-License-Identifier: MIT
+
+#include "unitstatus.h"
+
+#include "numbertext.h"
+#include "protocol.h"
+
+namespace {
+
+constexpr double freezingPoint = 273.15; ///< of water, in kelvin
+constexpr QChar degreeSign(0x00B0);
+
+double reportedNumber(const QString &line)
+{
+    return NumberText::toDouble(Protocol::blankSeparatedItem(line, 1));
+}
+
+} // namespace
+
+namespace UnitStatus {
+
+QString temperatureText(const QString &line, bool imperial)
+{
+    auto degrees = static_cast<float>(reportedNumber(line) - freezingPoint);
+    if (imperial) {
+        degrees = degrees * 9.0F / 5.0F + 32.0F;
+    }
+    return "TAL-VERO Temperature : " + NumberText::fixed(degrees, 0) + degreeSign +
+           (imperial ? "F" : "C");
+}
+
+QString voltageText(const QString &line)
+{
+    return "Power Supply Voltage : " + QString::number(reportedNumber(line), 'f', 2) + "V";
+}
+
+} // namespace UnitStatus
