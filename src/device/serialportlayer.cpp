@@ -124,7 +124,10 @@ void SerialPortLayer::sendCommand(QString command)
         command += QString::number(digit);
     }
     DEBUG_LOG << "Sending " << command;
-    port.write(command.toLocal8Bit());
+    const QByteArray bytes = command.toLocal8Bit();
+    if (port.write(bytes) != bytes.size()) {
+        DEBUG_LOG << "The serial port did not take the command:" << port.errorString();
+    }
     timeoutTimer.start();
     checkTimer.start();
 }
