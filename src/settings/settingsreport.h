@@ -46,7 +46,7 @@ std::optional<QString> asLength(const QString &field, const NumberSource &veloci
 /// have.
 std::optional<QString> asFormat(const QString &field, const NumberSource &velocity);
 
-/// "Active", whatever the field: a device that reports is not on standby.
+/// "Active", whatever the field: a device that reports is taken to be active.
 std::optional<QString> asActive(const QString &field, const NumberSource &velocity);
 
 /// A sounder mode's letter as its word: "n" Shallow, "a" Auto, "m" Manual. The report writes "n"
