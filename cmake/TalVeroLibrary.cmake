@@ -3,10 +3,10 @@
 # changed.
 function(talvero_form variable file)
   get_filename_component(name ${file} NAME_WE)
-  set(form ${CMAKE_SOURCE_DIR}/src/forms/${file})
+  set(form ${PROJECT_SOURCE_DIR}/src/forms/${file})
   set(generated ${CMAKE_CURRENT_BINARY_DIR}/uic/ui_${name}.h) # its include guard follows this name
   set(header ${CMAKE_CURRENT_BINARY_DIR}/ui_${name}.h)
-  set(adopt ${CMAKE_SOURCE_DIR}/cmake/AdoptPagesEarly.cmake)
+  set(adopt ${PROJECT_SOURCE_DIR}/cmake/AdoptPagesEarly.cmake)
   file(MAKE_DIRECTORY ${CMAKE_CURRENT_BINARY_DIR}/uic)
   add_custom_command(
     OUTPUT ${header}

@@ -2,7 +2,7 @@
 # a desk and on a machine without a display.
 set(TALVERO_TEST_ENVIRONMENT
   QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8
-  "LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/support/leaks.supp:print_suppressions=0")
+  "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/leaks.supp:print_suppressions=0")
 
 # talvero_add_test(NAME [SOURCES files...] [LINK libraries...] [LABEL label] [TIMEOUT seconds])
 # One test program from NAME.cpp.
@@ -15,7 +15,7 @@ function(talvero_add_test name)
     get_filename_component(arg_LABEL ${CMAKE_CURRENT_SOURCE_DIR} NAME)
   endif()
   add_executable(${name} ${name}.cpp ${arg_SOURCES})
-  set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+  set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/tests)
   target_link_libraries(${name} PRIVATE ${arg_LINK} Qt5::Test talvero_warnings)
   add_test(NAME ${name} COMMAND ${name})
   set_tests_properties(${name} PROPERTIES
