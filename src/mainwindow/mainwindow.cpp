@@ -10,6 +10,7 @@
 #include "resources.h"
 #include "sharplogo.h"
 #include "ui_mainwindow.h"
+#include "version.h"
 #include "wheelguard.h"
 
 #include <QCloseEvent>
@@ -81,7 +82,7 @@ MainWindow::MainWindow(PortLister portLister, QWidget *parent)
     styleLists(*ui);
     new WheelGuard(this);
     prepareKeyboardAccess(this);
-    ui->label_33->setText(QStringLiteral("TAL-VERO Connect Version: ") + "1.2.11");
+    ui->label_33->setText(QStringLiteral("TAL-VERO Connect Version: ") + TalVero::version);
     settings.setDeviceType(QStringLiteral("TalVeroNew"));
     setConnectButton(false);
     resizeTimer.setObjectName(QStringLiteral("resizeTimer"));
