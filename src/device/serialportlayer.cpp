@@ -4,6 +4,7 @@
 #include "serialportlayer.h"
 
 #include "debuglog.h"
+#include "porttrouble.h"
 #include "protocol.h"
 
 #include <QSignalBlocker>
@@ -71,7 +72,10 @@ SerialPortLayer::~SerialPortLayer()
 
 bool SerialPortLayer::openPort()
 {
+    trouble.clear();
     if (!openDevice()) {
+        trouble = PortTrouble::words(PortTrouble::factsOf(port));
+        DEBUG_LOG << "The serial port does not open:" << portName << port.error() << trouble;
         emit connectionFailed();
         return false;
     }

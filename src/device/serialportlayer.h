@@ -33,8 +33,11 @@ public:
     SerialPortLayer &operator=(const SerialPortLayer &) = delete;
 
     /// Opens `portName` at `baudRate` and sends the wake-up text. False, after connectionFailed(),
-    /// when the port cannot be opened; nothing else changes then.
+    /// when the port cannot be opened; nothing else changes then, but openTrouble() tells why.
     bool openPort();
+
+    /// Why openPort() has failed last, in the operator's words; empty after it has succeeded.
+    const QString &openTrouble() const { return trouble; }
 
     /// Closes the port and forgets a line that was only half received. The lines in `receivedLines`
     /// stay for their reader.
@@ -112,6 +115,7 @@ private:
     bool connected = false;
     bool checkPending = false;
     PortFault portFault = PortFault::None;
+    QString trouble;
 };
 
 #endif // SERIALPORTLAYER_H

@@ -20,6 +20,9 @@ using namespace std::chrono_literals;
 
 namespace {
 
+/// Grey on the dark header, for depths that no longer live.
+const QString staleSheet = QStringLiteral("color: rgb(165, 175, 195);");
+
 constexpr auto redrawTime = 50ms;
 constexpr int largestRange = 100;
 
@@ -115,6 +118,18 @@ void depthGraph::addData(float hf, float lf)
     chart.samples.prepend(sample);
     showDepth(ui->depthGraphFieldHF, QStringLiteral("High"), sample.hf);
     showDepth(ui->depthGraphFieldLF, QStringLiteral("Low"), sample.lf);
+    showAlive(true);
+}
+
+void depthGraph::showAlive(bool alive)
+{
+    if (alive == depthsAreAlive) {
+        return;
+    }
+    depthsAreAlive = alive;
+    for (QLabel *label : {ui->depthGraphFieldHF, ui->depthGraphFieldLF}) {
+        label->setStyleSheet(alive ? QString() : staleSheet);
+    }
 }
 
 void depthGraph::showDepth(QLabel *label, const QString &channel, float depth)

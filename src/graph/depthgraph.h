@@ -33,6 +33,10 @@ public:
     depthGraph(const depthGraph &) = delete;
     depthGraph &operator=(const depthGraph &) = delete;
 
+    /// Shows the depths above the chart as alive, or in grey as what was true when the link ended.
+    /// The next depths are alive again.
+    void showAlive(bool alive);
+
 public slots:
     /// One new pair of depths in metres. A negative depth (or one that is no number) means that the
     /// channel gave none; so does the mode of the other channel.
@@ -62,6 +66,7 @@ private:
     bool pictureIsUpToDate() const;
 
     std::unique_ptr<Ui::depthGraph> ui;
+    bool depthsAreAlive = true;
     DepthChartData chart;
     QString frequencyMode;
     QTimer drawTimer;

@@ -66,6 +66,9 @@ ChannelPane::ChannelPane(const QWidget &itsForm, const QString &itsPrefix,
     , indexCaption(find<QLabel>("IndexLabel"))
     , blankingCaption(find<QLabel>("BlankLabel"))
 {
+    for (QWidget *column : {modeColumn, tvgColumn}) {
+        column->setAttribute(Qt::WA_StyledBackground); // lets the sheets draw a mark around it
+    }
     const auto named = [this](const char *name) { return name != nullptr ? key(name) : QString(); };
     for (const FieldRow &row : fieldRows) {
         this->*row.field = fieldOnForm(form, {key(row.setting), named(row.edit), named(row.value),
@@ -119,6 +122,19 @@ void ChannelPane::showTvg(const QString &value) const
             option->setChecked(true);
         }
     }
+}
+
+QWidget *ChannelPane::markedControl(const SettingSpec &setting) const
+{
+    for (const FieldRow &row : fieldRows) {
+        if ((this->*row.field).setting == &setting) {
+            return (this->*row.field).marked();
+        }
+    }
+    if (setting.key == key("SounderMode")) {
+        return modeColumn;
+    }
+    return setting.key == key("TVG") ? tvgColumn : nullptr;
 }
 
 bool ChannelPane::showSwitch(const QString &value)

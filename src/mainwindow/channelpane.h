@@ -53,6 +53,9 @@ public:
     /// the value was one of the two.
     bool showSwitch(const QString &value);
 
+    /// Where a mark of this setting's value stands; null if the setting is not this channel's.
+    QWidget *markedControl(const SettingSpec &setting) const;
+
     ControlRules::ChannelState state;
 
     QRadioButton *enable;

@@ -6,20 +6,22 @@
 
 #include "numberfield.h"
 
-/// The numbers that both channels share, on the form.
+class QComboBox;
+
+/// The settings that both channels share, on the form.
 struct CommonFields
 {
     /// Gathers them from the form. One that is not there ends the program with its name.
-    explicit CommonFields(const QWidget &form)
-        : pings(fieldOnForm(form, {"Ping", "pingEdit", {}, {}, FieldReply::asItCame}))
-        , velocity(
-              fieldOnForm(form, {"Velocity", "soundVelocityEdit", {}, {}, FieldReply::thousandths}))
-        , maxDepth(fieldOnForm(form, {"Depth", "maxDepthEdit", {}, {}, FieldReply::thousandths}))
-    {}
+    explicit CommonFields(const QWidget &form);
+
+    /// Where a mark of this setting's value stands; null if the setting is none of these.
+    QWidget *markedControl(const SettingSpec &setting) const;
 
     NumberField pings;
     NumberField velocity;
     NumberField maxDepth;
+    QComboBox *format;
+    QComboBox *deviceRate;
 };
 
 #endif // COMMONFIELDS_H

@@ -74,6 +74,7 @@ MainWindow::MainWindow(PortLister portLister, QWidget *parent)
     , common(*this)
     , high(*this, "high", "HF")
     , low(*this, "low", "LF")
+    , marks(common, high, low)
 {
     showSharp(ui->headerLabel, ":/resourcefiles/images/brimsett-logo-header.png");
     resize(normalSize);
@@ -122,18 +123,22 @@ void MainWindow::connectSession()
     const std::pair<const QComboBox *, QString LinkChoices::*> lists[] = {
         {ui->portComboBox, &LinkChoices::port},
         {ui->baudComboBox, &LinkChoices::rate},
-        {ui->newBaudComboBox, &LinkChoices::deviceRate},
-        {ui->formatComboBox, &LinkChoices::format},
+        {ui->newBaudComboBox, &LinkChoices::deviceRate}, // the format is noted where it is chosen
     };
     for (const auto &[list, choice] : lists) {
         connect(list, &QComboBox::currentTextChanged, this,
                 [this, choice = choice](const QString &entry) { session.choices.*choice = entry; });
     }
     connect(&session.info(), &InfoLine::shown, this, &MainWindow::setInfoText);
+    connect(&session.info(), &InfoLine::explained, ui->infoLabel, &QWidget::setToolTip);
     connect(&session, &LinkSession::stateChanged, this, &MainWindow::followLink);
     connect(&session, &LinkSession::rateChosen, ui->baudComboBox, &QComboBox::setCurrentText);
     connect(&session, &LinkSession::identified, this, &MainWindow::parseBanner);
     connect(&session, &LinkSession::settingsReplied, this, &MainWindow::parseSetting);
+    connect(&session, &LinkSession::settingAccepted, this,
+            [this](const QString &key) { marks.setApplied(key); });
+    connect(&session, &LinkSession::settingNotApplied, this,
+            [this](const QString &key, const QString &words) { marks.setNotApplied(key, words); });
     connect(&session, &LinkSession::sounded, this, &MainWindow::parseDepth);
     connect(&session, &LinkSession::identifierRead, this, [this](const QString &identifier) {
         ui->label_24->setText("Serial Number: QZ" + identifier);

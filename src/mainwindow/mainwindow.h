@@ -11,6 +11,7 @@
 #include "linksession.h"
 #include "portchooser.h"
 #include "settingeditor.h"
+#include "settingmarks.h"
 #include "settings.h"
 #include "soundings.h"
 
@@ -205,6 +206,7 @@ private:
 
     // ---- mainwindow_depths.cpp: what the unit measures
     void parseDepth(const QString &line);
+    void showDepthsAlive(bool alive);
 
     // ---- mainwindow_controls.cpp: what can be used when
     void updateControls();
@@ -235,9 +237,9 @@ private:
     CommonFields common;
     ChannelPane high;
     ChannelPane low;
+    SettingMarks marks;
     Soundings soundings;
     Protocol::ChannelFit fit = Protocol::ChannelFit::Unknown; ///< of the unit connected last
-    bool formatLocked = false; ///< the output format fixes rate, modes and gain law
     bool autoSave = false;
     depthGraph graph;
     InfoForm info;

@@ -12,11 +12,14 @@
 
 void MainWindow::resetToFactory()
 {
-    const auto answer = QMessageBox::question(
-        this, "Reset Settings",
-        "This will reset the TAL-VERO settings to factory default, discarding your changes. Are "
-        "you sure you'd like to proceed?",
-        QMessageBox::Yes | QMessageBox::Cancel);
+    QMessageBox question(
+        QMessageBox::Question, "Reset Settings",
+        "This will reset the TAL-VERO settings to factory default, discarding your "
+        "changes. Are you sure you'd like to proceed?",
+        QMessageBox::Yes | QMessageBox::Cancel, this);
+    question.setDefaultButton(QMessageBox::Cancel); // a Return pressed in a hurry resets nothing
+    question.setEscapeButton(QMessageBox::Cancel);
+    const int answer = question.exec();
     if (answer == QMessageBox::Cancel) {
         DEBUG_LOG << "Cancel was clicked";
     } else if (answer == QMessageBox::Yes) {

@@ -3,6 +3,7 @@
 
 #include "mainwindow.h"
 
+#include "outputformat.h"
 #include "ui_mainwindow.h"
 
 #include <QPointer>
@@ -24,7 +25,8 @@ void placeLostFocus(const QWidget &window, const Ui::MainWindow &form, bool isCo
 
 ControlRules::State MainWindow::controlState() const
 {
-    return {session.state(), high.state, low.state, formatLocked};
+    const OutputFormat *format = OutputFormats::find(session.choices.format);
+    return {session.state(), high.state, low.state, format != nullptr && format->fixesOptions()};
 }
 
 void MainWindow::updateControls() { allow(ControlRules::usable(controlState())); }
@@ -47,7 +49,7 @@ void MainWindow::allow(const ControlRules::Usable &usable)
         control->setEnabled(isConnected);
     }
     ui->newBaudComboBox->setEnabled(usable.common.testFlag(CommonGroup::OutputRate));
-    ui->newBaudLabel->setDisabled(formatLocked);
+    ui->newBaudLabel->setDisabled(controlState().formatFixesOptions);
     ui->temperatureLabel->clear();
     session.forgetStatus();
     high.allow(usable.high);

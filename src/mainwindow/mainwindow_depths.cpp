@@ -3,7 +3,7 @@
 
 #include "mainwindow.h"
 
-#include "ui_mainwindow.h"
+#include "marks.h"
 
 #include <QLabel>
 #include <QRadioButton>
@@ -19,6 +19,7 @@ void MainWindow::parseDepth(const QString &line)
     context.imperial = settings.isImperial();
     const SoundingView view = soundings.parseDepth(line, context);
     if (view.depths) {
+        showDepthsAlive(true);
         emit gotDepths(view.depths->high, view.depths->low);
     }
     if (view.highText) {
@@ -27,4 +28,12 @@ void MainWindow::parseDepth(const QString &line)
     if (view.lowText) {
         low.depth->setText(*view.lowText);
     }
+}
+
+/// The depths of a link that is gone keep their text, but must not look alive.
+void MainWindow::showDepthsAlive(bool alive)
+{
+    Marks::setAlive(high.depth, alive);
+    Marks::setAlive(low.depth, alive);
+    graph.showAlive(alive);
 }

@@ -61,9 +61,12 @@ const char *colourName(InfoColour colour)
     return "black";
 }
 
-void showError(QWidget *parent, const char *text)
+void showError(QWidget *parent, const char *text, const QString &reason = QString())
 {
-    QMessageBox::information(parent, QStringLiteral("Error"), text, QMessageBox::Ok);
+    QMessageBox box(QMessageBox::Information, QStringLiteral("Error"), text, QMessageBox::Ok,
+                    parent);
+    box.setInformativeText(reason);
+    box.exec();
 }
 
 } // namespace
@@ -75,7 +78,8 @@ void MainWindow::pressConnect()
         showError(this, "No Port or Rate Selected, Please select a port to connect to");
         break;
     case LinkSession::Press::NotOpened:
-        showError(this, "Could Not Open Serial Port. Please unplug device then try again.");
+        showError(this, "Could Not Open Serial Port. Please unplug device then try again.",
+                  session.portTrouble());
         break;
     case LinkSession::Press::Underway:
     case LinkSession::Press::Disconnected:
@@ -86,6 +90,10 @@ void MainWindow::pressConnect()
 void MainWindow::followLink(SessionState state)
 {
     updateControls();
+    if (state == SessionState::Offline) {
+        marks.clear();
+        showDepthsAlive(false);
+    }
     setConnectButton(state != SessionState::Offline);
 }
 

@@ -3,8 +3,8 @@
 
 #include "mainwindow.h"
 
+#include "marks.h"
 #include "numbertext.h"
-#include "outputformat.h"
 #include "ui_mainwindow.h"
 #include "units.h"
 
@@ -89,13 +89,11 @@ void MainWindow::switchChannel(bool checked, ChannelPane &pane, bool on,
 
 void MainWindow::chooseFormat(const QString &format)
 {
-    if (editor.isPaused()) {
-        return;
+    session.choices.format = format; // decides what can be used
+    if (!editor.isPaused()) {
+        editor.changeStringSetting("format", format);
+        updateControls();
     }
-    editor.changeStringSetting("format", format);
-    const OutputFormat *chosen = OutputFormats::find(format);
-    formatLocked = chosen != nullptr && chosen->fixesOptions();
-    updateControls();
 }
 
 void MainWindow::changeMaxDepth(int direction)
@@ -117,6 +115,9 @@ void MainWindow::setImperialDisplay(bool imperial)
     ui->maxDepthEdit->setText(texts.maxDepth);
     high.showStartingTexts(texts.channel);
     low.showStartingTexts(texts.channel);
+    for (QLineEdit *edit : findChildren<QLineEdit *>()) {
+        Marks::settled(edit);
+    }
 
     const BlankingRange &range = imperial ? imperialRange : metricRange;
     high.blanking.slider->setRange(range.lowestOfHigh, range.highest);

@@ -36,6 +36,7 @@ void MainWindow::parseSetting(const Protocol::SettingsReply &reply)
         case Protocol::ReplyKind::None:
             break;
         }
+        marks.setTold(reply.kind, piece.letter);
     }
 }
 
@@ -74,13 +75,11 @@ void MainWindow::applyRate(const QString &value)
     session.followRate(value);
 }
 
-/// The lock means the format itself, however it came to be chosen.
 void MainWindow::applyFormat(const QString &value)
 {
     const int number = ReplyValues::letter(value).unicode() - '0';
     if (const OutputFormat *format = OutputFormats::findByNumber(number)) {
         ui->formatComboBox->setCurrentText(format->name);
-        formatLocked = format->fixesOptions();
         updateControls();
     }
 }

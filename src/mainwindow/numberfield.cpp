@@ -4,6 +4,7 @@
 #include "numberfield.h"
 
 #include "formwidgets.h"
+#include "marks.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -29,8 +30,16 @@ NumberField fieldOnForm(const QWidget &form, const NumberFieldNames &names)
     find(field.edit, form, names.edit);
     find(field.value, form, names.value);
     find(field.slider, form, names.slider);
+    if (field.edit != nullptr) {
+        Marks::watchTyping(field.edit);
+    }
     field.show = names.show;
     return field;
+}
+
+QWidget *NumberField::marked() const
+{
+    return edit != nullptr ? static_cast<QWidget *>(edit) : value;
 }
 
 void NumberField::showWithUnit(const QString &number, bool imperial) const

@@ -24,6 +24,9 @@ struct NumberField
     QSlider *slider = nullptr;
     FieldReply::Show show = nullptr;
 
+    /// Where a mark of the value stands: on the edit, or beside the slider.
+    QWidget *marked() const;
+
     /// Slider positions in one unit of the value.
     int positionsPerUnit() const { return edit != nullptr ? 100 : 1; }
 

@@ -5,6 +5,7 @@
 
 #include "commandqueue.h"
 #include "debuglog.h"
+#include "marks.h"
 #include "numbertext.h"
 #include "settings.h"
 #include "units.h"
@@ -136,6 +137,7 @@ float SettingEditor::changeField(const NumberField &field, float asked, const Ro
     change.shown = Units::shown(change.stored, change.imperial);
     road.logStored(change);
     road.show(field, change);
+    Marks::settled(field.marked());
     CHANGE_LOG << "Triggering";
     queue.triggerChange(field.setting->key,
                         NumberText::fromFloat(road.queuesAsked ? change.metric : change.shown));

@@ -30,6 +30,9 @@ CommandQueue::CommandQueue(const Settings &itsSettings, SerialPortLayer &itsSeri
     commandTimer.setObjectName(QStringLiteral("commandTimer"));
     commandTimer.setInterval(pause);
     commandTimer.setSingleShot(true);
+    ledgerTimer.setSingleShot(true);
+    connect(&ledgerTimer, &QTimer::timeout, this, &CommandQueue::giveUpOverdue);
+    clock.start();
 }
 
 void CommandQueue::triggerChange(const QString &name, const QString &value)
@@ -63,6 +66,7 @@ void CommandQueue::sendLatestCommand()
     WINDOW_LOG << value;
     info.show(InfoColour::Progress, Announcement::text(*setting, value), Topic::setting(name));
     serial.sendCommand(command);
+    noteSent(name);
     commandInFlight = true;
     pendingChanges.removeFirst();
     if (!pendingChanges.isEmpty()) {
@@ -80,4 +84,47 @@ void CommandQueue::mergeRepeatsOfFirst()
     WINDOW_LOG << "Have duplicates, going to uniquify : " << pendingChanges;
     pendingChanges.removeDuplicates();
     WINDOW_LOG << "result is " << pendingChanges;
+}
+
+void CommandQueue::noteCommandPastQueue() { noteSent(QString()); }
+
+void CommandQueue::noteSent(const QString &key)
+{
+    ledger.sent(key, clock.elapsed());
+    watchOldest();
+}
+
+QString CommandQueue::takeAnswered()
+{
+    const QString key = ledger.answered();
+    watchOldest();
+    return key;
+}
+
+void CommandQueue::forgetSent()
+{
+    commandInFlight = false;
+    ledger.clear();
+    ledgerTimer.stop();
+}
+
+void CommandQueue::watchOldest()
+{
+    const qint64 left = ledger.untilNext(clock.elapsed());
+    if (left < 0) {
+        ledgerTimer.stop();
+    } else {
+        ledgerTimer.start(static_cast<int>(left));
+    }
+}
+
+void CommandQueue::giveUpOverdue()
+{
+    const QStringList keys = ledger.giveUp(clock.elapsed());
+    watchOldest();
+    for (const QString &key : keys) {
+        if (!key.isEmpty()) {
+            emit unanswered(key);
+        }
+    }
 }

@@ -4,6 +4,9 @@
 #ifndef COMMANDQUEUE_H
 #define COMMANDQUEUE_H
 
+#include "answerledger.h"
+
+#include <QElapsedTimer>
 #include <QObject>
 #include <QStringList>
 #include <QTimer>
@@ -40,6 +43,15 @@ public:
     /// The answer has come, or is no longer waited for.
     void endWaiting() { commandInFlight = false; }
 
+    /// A command has gone out past the queue: its answer comes in its turn.
+    void noteCommandPastQueue();
+
+    /// An answer has come. The key of the setting whose change it answers; empty if it is none.
+    QString takeAnswered();
+
+    /// The link is gone, and with it every answer.
+    void forgetSent();
+
     /// The keys that wait, oldest first.
     const QStringList &waiting() const { return pendingChanges; }
 
@@ -47,14 +59,25 @@ public:
     /// end send.
     QTimer &timer() { return commandTimer; }
 
+signals:
+    /// The change of this setting has not been answered for 2 s. (Silence is not needed for that: a
+    /// sounder may send depths all the while.)
+    void unanswered(const QString &key);
+
 private:
     void mergeRepeatsOfFirst();
+    void noteSent(const QString &key);
+    void watchOldest();
+    void giveUpOverdue();
 
     const Settings &settings;
     SerialPortLayer &serial;
     InfoLine &info;
     QStringList pendingChanges;
     QTimer commandTimer{this};
+    QTimer ledgerTimer{this};
+    QElapsedTimer clock;
+    AnswerLedger ledger;
     bool commandInFlight = false;
 };
 

@@ -12,7 +12,7 @@ using namespace std::chrono_literals;
 constexpr auto shownFor = 10s;
 
 /// To which an outcome is appended: longer than any text that the operator gets to read.
-constexpr int longestText = 1000;
+constexpr int longestText = 4000;
 
 } // namespace
 
@@ -29,6 +29,7 @@ void InfoLine::show(InfoColour colour, const QString &text, const Topic &topic)
     shownText = text;
     shownTopic = topic;
     emit shown(colour, text);
+    emit explained(QString());
     infoTimer.start();
 }
 
@@ -37,5 +38,7 @@ void InfoLine::append(InfoColour colour, const QString &outcome)
     const Topic same = shownTopic;
     show(colour, shownText.left(longestText) + outcome, same);
 }
+
+void InfoLine::explain(const QString &reason) { emit explained(reason); }
 
 void InfoLine::clear() { show(InfoColour::Progress, QString()); }

@@ -58,6 +58,9 @@ public:
     /// grows without end (a line full of noise may answer without end) the beginning is kept.
     void append(InfoColour colour, const QString &outcome);
 
+    /// Adds what stands behind the text, for who asks: a tooltip. It goes with the text.
+    void explain(const QString &reason);
+
     /// Shows an empty text: what the info timer's end calls for.
     void clear();
 
@@ -70,6 +73,9 @@ public:
 signals:
     /// This is to be seen now.
     void shown(InfoColour colour, const QString &text);
+
+    /// This stands behind what is to be seen; empty for most texts.
+    void explained(const QString &reason);
 
 private:
     QTimer infoTimer{this};

@@ -29,6 +29,9 @@ LinkSession::LinkSession(Settings &itsSettings, QObject *parent)
     temperatureTimer.setObjectName(QStringLiteral("temperatureTimer"));
     temperatureTimer.setInterval(pollInterval);
     temperatureTimer.start();
+    connect(&commandQueue, &CommandQueue::unanswered, this, [this](const QString &key) {
+        emit settingNotApplied(key, QStringLiteral("Command Timed Out"));
+    });
 }
 
 void LinkSession::setState(SessionState state)
@@ -96,7 +99,7 @@ void LinkSession::closeLink()
 {
     serial.closePort();
     answerTimer.stop();
-    commandQueue.endWaiting();
+    commandQueue.forgetSent();
 }
 
 void LinkSession::moveRateTo(const QString &rate)
@@ -117,6 +120,7 @@ bool LinkSession::doAutoBaud()
     closeLink();
     if (!openLink(choices.port, *rate)) {
         WINDOW_LOG << "Connection failed";
+        infoLine.explain(portTrouble());
         return false;
     }
     infoLine.show(InfoColour::Progress, "Trying " + *rate + " baud");
@@ -131,11 +135,42 @@ void LinkSession::failLink(const QString &message)
     closeLink();
 }
 
+void LinkSession::failAttempt()
+{
+    failLink(QStringLiteral("Could Not Connect To Device"));
+    infoLine.explain(portTrouble());
+}
+
+void LinkSession::searchOn()
+{
+    if (!doAutoBaud()) {
+        failAttempt();
+    }
+}
+
 /// The device goes on at other settings; the operator connects again, at the rate now chosen.
 void LinkSession::closeToReconnect()
 {
     setState(SessionState::Offline);
     closeLink();
+}
+
+/// An acknowledgement demands another rate or a new start. Before the banner there is no link that
+/// it could belong to: it is a late answer to somebody else, and must not end an attempt in green.
+void LinkSession::closeForAcknowledgement()
+{
+    switch (currentState) {
+    case SessionState::Connecting:
+        failAttempt();
+        break;
+    case SessionState::Searching:
+        searchOn();
+        break;
+    case SessionState::Offline:
+    case SessionState::Connected:
+        closeToReconnect();
+        break;
+    }
 }
 
 void LinkSession::serialTimeout(bool excused)
@@ -148,12 +183,10 @@ void LinkSession::serialTimeout(bool excused)
     }
     switch (currentState) {
     case SessionState::Connecting:
-        failLink(QStringLiteral("Could Not Connect To Device"));
+        failAttempt();
         break;
     case SessionState::Searching:
-        if (!doAutoBaud()) {
-            failLink(QStringLiteral("Could Not Connect To Device"));
-        }
+        searchOn();
         break;
     case SessionState::Offline:
     case SessionState::Connected:
@@ -170,6 +203,7 @@ void LinkSession::sendAtOnce(const QString &announcement, const char *command, c
 {
     infoLine.show(InfoColour::Progress, announcement, topic);
     serial.sendCommand(command);
+    commandQueue.noteCommandPastQueue();
 }
 
 void LinkSession::getLatestTemperature()

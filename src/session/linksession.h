@@ -67,6 +67,9 @@ public:
     /// The operator presses the connect button.
     Press press();
 
+    /// Why the port did not open last, in the operator's words; empty if it did.
+    const QString &portTrouble() const { return serial.openTrouble(); }
+
     /// Lines have arrived.
     void gotSerialData();
 
@@ -101,6 +104,13 @@ signals:
     /// A line of the settings reply has come.
     void settingsReplied(const Protocol::SettingsReply &reply);
 
+    /// The sounder has accepted the change of this setting.
+    void settingAccepted(const QString &key);
+
+    /// The sounder has refused the change of this setting, or has not answered it; `words` say
+    /// which.
+    void settingNotApplied(const QString &key, const QString &words);
+
     /// The unit's identifier has come, cut to what is shown of it.
     void identifierRead(const QString &identifier);
 
@@ -121,7 +131,10 @@ private:
     bool openLink(const QString &port, const QString &rate);
     void closeLink();
     void failLink(const QString &message);
+    void failAttempt();
+    void searchOn();
     void closeToReconnect();
+    void closeForAcknowledgement();
     void moveRateTo(const QString &rate);
 
     void handleLine(const QString &line);

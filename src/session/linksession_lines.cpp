@@ -14,14 +14,15 @@
 
 namespace {
 
-/// What follows the announcement of a setting that the sounder has refused.
-QString refusalWords(const Topic &topic)
+/// What the operator reads after a refusal; pings and range, for instance, compete for the time
+/// that sound takes to the bottom and back.
+QString refusalWords(const QString &key)
 {
-    const SettingSpec *setting = SettingSpecs::find(topic.settingKey());
+    const SettingSpec *setting = SettingSpecs::find(key);
     if (setting == nullptr || setting->refusalAdvice.isEmpty()) {
-        return QStringLiteral(" ... Received Error - Command Not Applied");
+        return QStringLiteral("Received Error - Command Not Applied");
     }
-    return " ... not applied. " + setting->refusalAdvice;
+    return "not applied. " + setting->refusalAdvice;
 }
 
 } // namespace
@@ -77,26 +78,34 @@ void LinkSession::acknowledge(const QString & /*line*/)
 {
     infoLine.append(InfoColour::Success, QStringLiteral(" ... Success"));
     commandQueue.endWaiting();
+    const QString key = commandQueue.takeAnswered();
+    if (!key.isEmpty()) {
+        emit settingAccepted(key);
+    }
     if (choices.rate != choices.deviceRate) {
         moveRateTo(choices.deviceRate);
-        closeToReconnect();
+        closeForAcknowledgement();
     } else if (infoLine.topic().settingKey() == QLatin1String("format")) {
         const OutputFormat *format = OutputFormats::find(choices.format);
         // The device changes to the format's own rate by itself.
         if (format != nullptr && format->fixedRate != 0 &&
             choices.rate.toInt() != format->fixedRate) {
             moveRateTo(QString::number(format->fixedRate));
-            closeToReconnect();
+            closeForAcknowledgement();
         }
     } else if (infoLine.topic().isFactoryReset()) {
-        closeToReconnect();
+        closeForAcknowledgement();
     }
 }
 
 void LinkSession::refuse(const QString & /*line*/)
 {
-    infoLine.append(InfoColour::Failure, refusalWords(infoLine.topic()));
+    infoLine.append(InfoColour::Failure, " ... " + refusalWords(infoLine.topic().settingKey()));
     commandQueue.endWaiting();
+    const QString key = commandQueue.takeAnswered();
+    if (!key.isEmpty()) {
+        emit settingNotApplied(key, refusalWords(key));
+    }
 }
 
 void LinkSession::parseSetting(const QString &line)

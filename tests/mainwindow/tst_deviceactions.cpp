@@ -8,6 +8,7 @@
 
 #include <QAbstractButton>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QRadioButton>
 
 namespace {
@@ -48,11 +49,15 @@ void DeviceActionsTest::factoryResetAsks()
     QString text;
     QMessageBox::StandardButtons buttons;
     QMessageBox::Icon icon = QMessageBox::NoIcon;
+    QMessageBox::StandardButton defaultButton = QMessageBox::NoButton;
+    QMessageBox::StandardButton escapeButton = QMessageBox::NoButton;
     const BoxHand hand([&](QMessageBox &box) {
         title = box.windowTitle();
         text = box.text();
         buttons = box.standardButtons();
         icon = box.icon();
+        defaultButton = box.standardButton(box.defaultButton());
+        escapeButton = box.standardButton(box.escapeButton());
         press(box, QMessageBox::Cancel);
     });
     bench.click("resetSettings");
@@ -61,6 +66,8 @@ void DeviceActionsTest::factoryResetAsks()
     QCOMPARE(text, QString(resetQuestion));
     QCOMPARE(buttons, QMessageBox::Yes | QMessageBox::Cancel);
     QCOMPARE(icon, QMessageBox::Question);
+    QCOMPARE(defaultButton, QMessageBox::Cancel);
+    QCOMPARE(escapeButton, QMessageBox::Cancel);
 }
 
 void DeviceActionsTest::factoryResetIsSentOnYesAndClosesTheLink()
@@ -83,19 +90,20 @@ void DeviceActionsTest::factoryResetIsSentOnYesAndClosesTheLink()
 
 void DeviceActionsTest::factoryResetIsNotSent_data()
 {
-    QTest::addColumn<bool>("byEscape");
-    QTest::newRow("after Cancel") << false;
-    QTest::newRow("after Escape, which is taken for Cancel") << true;
+    QTest::addColumn<int>("key");
+    QTest::newRow("after Cancel") << 0;
+    QTest::newRow("after Escape, which is taken for Cancel") << int(Qt::Key_Escape);
+    QTest::newRow("after Return, pressed in a hurry") << int(Qt::Key_Return);
 }
 
 void DeviceActionsTest::factoryResetIsNotSent()
 {
-    QFETCH(bool, byEscape);
+    QFETCH(int, key);
     ReadyBench bench;
     const QString info = bench.info();
-    const BoxHand hand([byEscape](QMessageBox &box) {
-        if (byEscape) {
-            QTest::keyClick(&box, Qt::Key_Escape);
+    const BoxHand hand([key](QMessageBox &box) {
+        if (key != 0) {
+            QTest::keyClick(&box, Qt::Key(key));
         } else {
             press(box, QMessageBox::Cancel);
         }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "answerbench.h"
+#include "linkwatch.h"
 
 #include <QtTest>
 
@@ -31,8 +32,11 @@ private slots:
     void acceptedSaveKeepsTheLink();
     void linesBehindTheClosingOneAreDropped_data();
     void linesBehindTheClosingOneAreDropped();
-    void strayAcknowledgementWhileConnectingLeavesTheButtonReady();
-    void strayAcknowledgementDuringTheSearchLeavesTheButtonReady();
+    void strayAcknowledgementEndsTheAttemptInRed();
+    void strayAcknowledgementAtTheSameRateEndsNothing();
+    void strayAcknowledgementLetsTheSearchGoOn_data();
+    void strayAcknowledgementLetsTheSearchGoOn();
+    void strayAcknowledgementAtTheLastRateEndsTheSearchInRed();
 
 private:
     std::unique_ptr<AnswerBench> bench;
@@ -212,21 +216,65 @@ void TestLinkClosing::linesBehindTheClosingOneAreDropped()
 }
 
 /// An answer that is late by a whole connection.
-void TestLinkClosing::strayAcknowledgementWhileConnectingLeavesTheButtonReady()
+void TestLinkClosing::strayAcknowledgementEndsTheAttemptInRed()
 {
     QVERIFY(bench->startConnecting());
     bench->say("OK");
     QTRY_VERIFY(bench->isClosed());
+    QCOMPARE(bench->info(), QString("Could Not Connect To Device"));
+    QCOMPARE(bench->infoColour(), QString("Red"));
     QVERIFY2(bench->connectAs(), "the press that should connect only disconnects");
 }
 
-void TestLinkClosing::strayAcknowledgementDuringTheSearchLeavesTheButtonReady()
+/// The rates agree, so the attempt goes on.
+void TestLinkClosing::strayAcknowledgementAtTheSameRateEndsNothing()
 {
+    QVERIFY(bench->startConnecting("4800"));
+    QCOMPARE(bench->text("newBaudComboBox"), QString("4800"));
+    bench->say("OK");
+    bench->say(ReportBench::dualBanner);
+    QTRY_VERIFY(bench->showsConnected());
+    QCOMPARE(bench->info(), QString("Connected to TAL-VERO"));
+}
+
+void TestLinkClosing::strayAcknowledgementLetsTheSearchGoOn_data()
+{
+    QTest::addColumn<QString>("listed");
+    QTest::addColumn<QString>("tried");
+    QTest::newRow("the rate after the list's") << "19200"
+                                               << "38400";
+    QTest::newRow("from the slowest on") << "4800"
+                                         << "9600";
+}
+
+void TestLinkClosing::strayAcknowledgementLetsTheSearchGoOn()
+{
+    QFETCH(QString, listed);
+    QFETCH(QString, tried);
+    bench->find<QComboBox>("newBaudComboBox")->setCurrentText(listed);
     QVERIFY(bench->startConnecting("Auto"));
-    QMetaObject::invokeMethod(&bench->window, "serialTimeout"); // the two seconds pass elsewhere
-    QCOMPARE(bench->text("baudComboBox"), QString("9600"));
+    if (listed == "4800") {
+        QMetaObject::invokeMethod(&bench->window,
+                                  "serialTimeout"); // the two seconds pass elsewhere
+        QCOMPARE(bench->text("baudComboBox"), QString("9600"));
+    }
+    bench->say("OK");
+    QTRY_COMPARE(bench->info(), "Trying " + tried + " baud");
+    QCOMPARE(bench->text("baudComboBox"), tried);
+    QCOMPARE(bench->text("connectToDevice"), QString("Disconnect"));
+    QVERIFY(!LinkWatch::isFree(bench->line.slavePath()));
+    bench->say(ReportBench::dualBanner);
+    QTRY_VERIFY(bench->showsConnected());
+}
+
+void TestLinkClosing::strayAcknowledgementAtTheLastRateEndsTheSearchInRed()
+{
+    bench->find<QComboBox>("newBaudComboBox")->setCurrentText("115200");
+    QVERIFY(bench->startConnecting("Auto"));
     bench->say("OK");
     QTRY_VERIFY(bench->isClosed());
+    QCOMPARE(bench->info(), QString("Could Not Connect To Device"));
+    QCOMPARE(bench->infoColour(), QString("Red"));
     QVERIFY2(bench->connectAs(), "the press that should connect only ends a search");
 }
 

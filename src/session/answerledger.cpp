@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The TAL-VERO Connect developers
+// SPDX-License-Identifier: MIT
+
+#include "answerledger.h"
+
+#include <algorithm>
+
+void AnswerLedger::sent(const QString &key, qint64 now) { waiting.append({key, now}); }
+
+QString AnswerLedger::answered()
+{
+    if (waiting.isEmpty()) {
+        QString late;
+        late.swap(givenUp);
+        return late;
+    }
+    return waiting.takeFirst().key;
+}
+
+QStringList AnswerLedger::giveUp(qint64 now)
+{
+    QStringList keys;
+    while (!waiting.isEmpty() && now - waiting.first().sentAt >= patience) {
+        givenUp = waiting.takeFirst().key;
+        keys.append(givenUp);
+    }
+    return keys;
+}
+
+qint64 AnswerLedger::untilNext(qint64 now) const
+{
+    return waiting.isEmpty() ? -1 : std::max<qint64>(0, waiting.first().sentAt + patience - now);
+}
+
+void AnswerLedger::clear()
+{
+    waiting.clear();
+    givenUp.clear();
+}
