@@ -21,6 +21,10 @@ install_missing() {
 # What building and running need. The fonts stand in for those that a bare machine lacks.
 build_packages=(g++ cmake ninja-build qtbase5-dev libqt5serialport5-dev fonts-dejavu-core)
 
+# What the tests need besides: a locale that writes "0,5" (made from `locales`), and what stands between
+# the program and a screen reader.
+test_packages=(locales at-spi2-core dbus gir1.2-atspi-2.0 python3-gi xdotool xvfb)
+
 # configure PRESET [cmake options...]
 configure() {
     local preset=$1

@@ -13,6 +13,7 @@ constexpr char waitingProperty[] = "waits";
 constexpr char notAppliedProperty[] = "notApplied";
 constexpr char staleProperty[] = "stale";
 constexpr char plainToolTipProperty[] = "plainToolTip";
+constexpr char plainDescriptionProperty[] = "plainDescription";
 constexpr char markProperty[] = "mark";
 
 constexpr char waitingWords[] = "Press Return to send";
@@ -42,7 +43,11 @@ void show(QWidget *control)
     const QString words = wordsFor(*control);
     control->setToolTip(words.isEmpty() ? control->property(plainToolTipProperty).toString()
                                         : words);
-    control->setAccessibleDescription(words);
+    if (!control->property(plainDescriptionProperty).isValid()) {
+        control->setProperty(plainDescriptionProperty, control->accessibleDescription());
+    }
+    control->setAccessibleDescription(
+        words.isEmpty() ? control->property(plainDescriptionProperty).toString() : words);
     const QString mark = markOf(*control);
     if (control->property(markProperty).toString() != mark) {
         control->setProperty(markProperty, mark);
