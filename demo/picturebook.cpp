@@ -97,6 +97,23 @@ bool refused(PictureDesk &desk)
     return came && desk.infoComesToHold("Received Error");
 }
 
+/// A typed value that waits beside those that the sounder refused.
+bool unsent(PictureDesk &desk)
+{
+    const bool came = refused(desk);
+    desk.click("highPulseUp");
+    desk.click("highLog20Tvg");
+    desk.type("maxDepthEdit", "45");
+    return came && desk.infoComesToHold("Time Variable Gain to Log 20 ... Received Error");
+}
+
+bool lost(PictureDesk &desk)
+{
+    const bool came = sounding(desk);
+    desk.click("connectToDevice");
+    return came;
+}
+
 bool footerHidden(PictureDesk &desk)
 {
     desk.click("hamburgerButton");
@@ -146,6 +163,8 @@ std::vector<Scene> allScenes()
         {"imperial", imperial},
         {"kestrola", kestrola},
         {"refused", refused, StartSize, SounderFit::Dual, refusing()},
+        {"unsent", unsent, StartSize, SounderFit::Dual, refusing()},
+        {"lost", lost},
         {"footer-hidden", footerHidden},
         {"graph-metres", graph, OwnSize, SounderFit::Dual, {}, "Depth Graph", false},
         {"graph-feet", graphInFeet, OwnSize, SounderFit::Dual, {}, "Depth Graph", false},

@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QTabWidget>
 #include <QtTest>
 
@@ -62,6 +63,15 @@ void PictureDesk::click(const char *name)
     constexpr int insideIndicator = 12; // a radio button answers at its left end
     QTest::mouseClick(widget, Qt::LeftButton, {}, QPoint(insideIndicator, widget->height() / 2));
     window.setFocus(); // no picture depends on what was pressed last
+}
+
+void PictureDesk::type(const char *edit, const char *text)
+{
+    auto *const widget = find<QLineEdit>(edit);
+    widget->setFocus();
+    widget->selectAll();
+    QTest::keyClicks(widget, text);
+    window.setFocus();
 }
 
 void PictureDesk::choose(const char *list, const char *entry)

@@ -23,6 +23,9 @@ public:
     bool connectToSounder();
 
     void click(const char *name);
+
+    /// Types over what stands in the edit, without Return.
+    void type(const char *edit, const char *text);
     void choose(const char *list, const char *entry);
     void showTab(int index);
 

@@ -66,9 +66,6 @@ ChannelPane::ChannelPane(const QWidget &itsForm, const QString &itsPrefix,
     , indexCaption(find<QLabel>("IndexLabel"))
     , blankingCaption(find<QLabel>("BlankLabel"))
 {
-    for (QWidget *column : {modeColumn, tvgColumn}) {
-        column->setAttribute(Qt::WA_StyledBackground); // lets the sheets draw a mark around it
-    }
     const auto named = [this](const char *name) { return name != nullptr ? key(name) : QString(); };
     for (const FieldRow &row : fieldRows) {
         this->*row.field = fieldOnForm(form, {key(row.setting), named(row.edit), named(row.value),
@@ -124,17 +121,18 @@ void ChannelPane::showTvg(const QString &value) const
     }
 }
 
-QWidget *ChannelPane::markedControl(const SettingSpec &setting) const
+QList<QWidget *> ChannelPane::controlsOf(const SettingSpec &setting) const
 {
     for (const FieldRow &row : fieldRows) {
         if ((this->*row.field).setting == &setting) {
-            return (this->*row.field).marked();
+            return {(this->*row.field).marked()};
         }
     }
     if (setting.key == key("SounderMode")) {
-        return modeColumn;
+        return {shallow, automatic, manual};
     }
-    return setting.key == key("TVG") ? tvgColumn : nullptr;
+    return setting.key == key("TVG") ? QList<QWidget *>{tvgOff, tvgLog10, tvgLog20}
+                                     : QList<QWidget *>();
 }
 
 bool ChannelPane::showSwitch(const QString &value)

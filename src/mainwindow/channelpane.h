@@ -8,6 +8,7 @@
 #include "numberfield.h"
 #include "protocol.h"
 
+#include <QList>
 #include <QString>
 
 class QLabel;
@@ -53,8 +54,9 @@ public:
     /// the value was one of the two.
     bool showSwitch(const QString &value);
 
-    /// Where a mark of this setting's value stands; null if the setting is not this channel's.
-    QWidget *markedControl(const SettingSpec &setting) const;
+    /// The controls that show this setting's value, all options of a word; none if the setting is
+    /// not this channel's.
+    QList<QWidget *> controlsOf(const SettingSpec &setting) const;
 
     ControlRules::ChannelState state;
 

@@ -16,15 +16,15 @@ CommonFields::CommonFields(const QWidget &form)
     , deviceRate(widgetOnForm<QComboBox>(form, "newBaudComboBox"))
 {}
 
-QWidget *CommonFields::markedControl(const SettingSpec &setting) const
+QList<QWidget *> CommonFields::controlsOf(const SettingSpec &setting) const
 {
     for (const NumberField *field : {&pings, &velocity, &maxDepth}) {
         if (field->setting == &setting) {
-            return field->marked();
+            return {field->marked()};
         }
     }
     if (setting.key == QLatin1String("format")) {
-        return format;
+        return {format};
     }
-    return setting.key == QLatin1String("baud") ? deviceRate : nullptr;
+    return setting.key == QLatin1String("baud") ? QList<QWidget *>{deviceRate} : QList<QWidget *>();
 }

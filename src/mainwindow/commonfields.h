@@ -6,6 +6,8 @@
 
 #include "numberfield.h"
 
+#include <QList>
+
 class QComboBox;
 
 /// The settings that both channels share, on the form.
@@ -14,8 +16,8 @@ struct CommonFields
     /// Gathers them from the form. One that is not there ends the program with its name.
     explicit CommonFields(const QWidget &form);
 
-    /// Where a mark of this setting's value stands; null if the setting is none of these.
-    QWidget *markedControl(const SettingSpec &setting) const;
+    /// The controls that show this setting's value; none if the setting is none of these.
+    QList<QWidget *> controlsOf(const SettingSpec &setting) const;
 
     NumberField pings;
     NumberField velocity;

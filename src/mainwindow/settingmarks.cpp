@@ -7,6 +7,8 @@
 #include "commonfields.h"
 #include "marks.h"
 
+#include <QAbstractButton>
+
 namespace {
 
 bool isToldIn(Protocol::ReplyKind line, const SettingSpec &setting)
@@ -31,35 +33,33 @@ SettingMarks::SettingMarks(const CommonFields &itsCommon, const ChannelPane &its
     , low(itsLow)
 {}
 
-/// Null for the one setting that has no control.
-QWidget *SettingMarks::controlOf(const SettingSpec &setting) const
+/// None for the one setting that has no control.
+QList<QWidget *> SettingMarks::controlsOf(const SettingSpec &setting) const
 {
-    for (QWidget *control :
-         {common.markedControl(setting), high.markedControl(setting), low.markedControl(setting)}) {
-        if (control != nullptr) {
-            return control;
-        }
-    }
-    return nullptr;
+    return common.controlsOf(setting) + high.controlsOf(setting) + low.controlsOf(setting);
 }
 
-QWidget *SettingMarks::controlOf(const QString &key) const
+QList<QWidget *> SettingMarks::controlsOf(const QString &key) const
 {
     const SettingSpec *setting = SettingSpecs::find(key);
-    return setting != nullptr ? controlOf(*setting) : nullptr;
+    return setting != nullptr ? controlsOf(*setting) : QList<QWidget *>();
 }
 
 void SettingMarks::setApplied(const QString &key) const
 {
-    if (QWidget *control = controlOf(key)) {
+    for (QWidget *control : controlsOf(key)) {
         Marks::setApplied(control);
     }
 }
 
+/// Of options the chosen one.
 void SettingMarks::setNotApplied(const QString &key, const QString &words) const
 {
-    if (QWidget *control = controlOf(key)) {
-        Marks::setNotApplied(control, words);
+    for (QWidget *control : controlsOf(key)) {
+        const auto *const option = qobject_cast<QAbstractButton *>(control);
+        if (option == nullptr || option->isChecked()) {
+            Marks::setNotApplied(control, words);
+        }
     }
 }
 
@@ -69,7 +69,7 @@ void SettingMarks::setTold(Protocol::ReplyKind line, QChar letter) const
         if (!isToldIn(line, setting) || letter != QLatin1Char(setting.replyLetter)) {
             continue;
         }
-        if (QWidget *control = controlOf(setting)) {
+        for (QWidget *control : controlsOf(setting)) {
             Marks::setApplied(control);
             Marks::settled(control);
         }
@@ -79,8 +79,6 @@ void SettingMarks::setTold(Protocol::ReplyKind line, QChar letter) const
 void SettingMarks::clear() const
 {
     for (const SettingSpec &setting : SettingSpecs::all()) {
-        if (QWidget *control = controlOf(setting)) {
-            Marks::setApplied(control);
-        }
+        setApplied(setting.key);
     }
 }

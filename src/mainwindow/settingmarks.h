@@ -6,6 +6,7 @@
 
 #include "protocol.h"
 
+#include <QList>
 #include <QString>
 
 struct CommonFields;
@@ -33,8 +34,8 @@ public:
     void clear() const;
 
 private:
-    QWidget *controlOf(const QString &key) const;
-    QWidget *controlOf(const SettingSpec &setting) const;
+    QList<QWidget *> controlsOf(const QString &key) const;
+    QList<QWidget *> controlsOf(const SettingSpec &setting) const;
 
     const CommonFields &common;
     const ChannelPane &high;
