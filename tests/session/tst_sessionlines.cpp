@@ -1,0 +1,379 @@
+// SPDX-FileCopyrightText: 2026 The TAL-VERO Connect developers
+// SPDX-License-Identifier: MIT
+
+// What each line of the sounder means in each state.
+
+#include "sessionbench.h"
+
+#include <QtTest>
+
+#include <memory>
+
+Q_DECLARE_METATYPE(SessionState)
+Q_DECLARE_METATYPE(Topic)
+
+namespace {
+
+constexpr char requests[] = "*Gasdfdsasdf*UUasdfdsa*UAbxxxxxx";
+
+constexpr SessionState everyState[] = {SessionState::Offline, SessionState::Connecting,
+                                       SessionState::Searching, SessionState::Connected};
+
+/// What comes in without a question, and what is told of it.
+struct Report
+{
+    const char *line;
+    const char *told; ///< empty: nothing
+};
+
+constexpr Report reports[] = {
+    {"*i5,v1500000,a1", "settings common i=5 v=1500000 a=1"},
+    {"*Hg064,Ht050", "settings high g=064 t=050"},
+    {"*Lm00500", "settings low m=00500"},
+    {"UID : 4A5B6C7D8E9F0011", "identifier 4A5B6C7D"},
+    {"UID : 123", "identifier 123"},
+    {"UID : ", "identifier "},
+    {"The UID : 12345678", "identifier :"},
+    {"BoardTemp: 298.15", "status TAL-VERO Temperature : 25°C"},
+    {"VSupply: 12.41", "status Power Supply Voltage : 12.41V"},
+    {" et B 00123 00131", "sounded  et B 00123 00131"},
+    {"ok", "sounded ok"},
+    {"err", "sounded err"},
+    {"", ""},
+};
+
+} // namespace
+
+class SessionLinesTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { bench = std::make_unique<SessionBench>(); }
+    void cleanup() { bench.reset(); }
+
+    void aReportIsPassedOnInEveryState_data();
+    void aReportIsPassedOnInEveryState();
+    void aTemperatureIsToldInTheOperatorsUnit();
+    void linesAreTakenInTheirOrder();
+    void settingsAndIdentifierAreLogged();
+
+    void aBannerConnects_data();
+    void aBannerConnects();
+    void aBannerWhileConnectedIsAKeepAlive();
+    void aBannerLeavesTheSearchAtItsRate();
+
+    void anAcknowledgementIsAppendedInGreen_data();
+    void anAcknowledgementIsAppendedInGreen();
+    void anAcknowledgementMayCloseTheLink_data();
+    void anAcknowledgementMayCloseTheLink();
+    void anAcknowledgementBeforeTheBannerIsNoBanner_data();
+    void anAcknowledgementBeforeTheBannerIsNoBanner();
+    void anAcknowledgementEndsAnAttemptAtAnotherRate();
+
+    void aRefusalGivesItsAdvice_data();
+    void aRefusalGivesItsAdvice();
+    void aRefusalChangesNothingElse_data();
+    void aRefusalChangesNothingElse();
+    void anAnswerEndsTheWaitForIt_data();
+    void anAnswerEndsTheWaitForIt();
+
+private:
+    std::unique_ptr<SessionBench> bench;
+};
+
+void SessionLinesTest::aReportIsPassedOnInEveryState_data()
+{
+    QTest::addColumn<SessionState>("state");
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<QString>("told");
+    for (const SessionState state : everyState) {
+        for (const Report &report : reports) {
+            QTest::addRow("%s: %s", qPrintable(SessionBench::nameOf(state)), report.line)
+                << state << QString(report.line) << QString(report.told);
+        }
+    }
+}
+
+void SessionLinesTest::aReportIsPassedOnInEveryState()
+{
+    QFETCH(SessionState, state);
+    QFETCH(QString, line);
+    QFETCH(QString, told);
+    bench->bring(state);
+    const bool waits = bench->session.answerWatch().isActive();
+    bench->say(line);
+    QCOMPARE(bench->takeTold(), told.isEmpty() ? QStringList() : QStringList{told});
+    QVERIFY(bench->session.state() == state);
+    QVERIFY2(bench->session.answerWatch().isActive() == waits, "only a banner is an answer");
+    QCOMPARE(bench->takeSent(), QByteArray());
+}
+
+void SessionLinesTest::aTemperatureIsToldInTheOperatorsUnit()
+{
+    bench->bring(SessionState::Connected);
+    bench->settings.goToImperial(true);
+    bench->say("BoardTemp: 298.15");
+    QCOMPARE(bench->takeTold(), QStringList{"status TAL-VERO Temperature : 77°F"});
+}
+
+void SessionLinesTest::linesAreTakenInTheirOrder()
+{
+    bench->bring(SessionState::Connected);
+    bench->session.port().receivedLines << "UID : 12345678"
+                                        << "e00131"
+                                        << "*i5";
+    bench->session.gotSerialData();
+    QCOMPARE(bench->takeTold(),
+             (QStringList{"identifier 12345678", "sounded e00131", "settings common i=5"}));
+    QVERIFY(bench->session.port().receivedLines.isEmpty());
+    bench->session.gotSerialData();
+    QCOMPARE(bench->takeTold(), QStringList());
+}
+
+void SessionLinesTest::settingsAndIdentifierAreLogged()
+{
+    bench->bring(SessionState::Connected);
+    bench->say("*i5,v1500000");
+    bench->say("UID : 1234  5");
+    QVERIFY(bench->log.contains("MainWindow::parseSetting"));
+    QCOMPARE(bench->takeLog(), (QStringList{"Settings (\"i5\", \"v1500000\")",
+                                            "(\"UID\", \":\", \"1234\", \"\", \"5\")"}));
+}
+
+void SessionLinesTest::aBannerConnects_data()
+{
+    QTest::addColumn<SessionState>("state");
+    QTest::newRow("connecting") << SessionState::Connecting;
+    QTest::newRow("searching") << SessionState::Searching;
+}
+
+void SessionLinesTest::aBannerConnects()
+{
+    QFETCH(SessionState, state);
+    bench->bring(state);
+    bench->say(SessionBench::banner);
+    QCOMPARE(bench->takeTold(), (QStringList{"info green: Connected to TAL-VERO", "state Connected",
+                                             "identified 2.14.7"}));
+    QCOMPARE(bench->takeLog(), QStringList{"we have a TalVero New"});
+    QVERIFY(bench->session.port().isConnected());
+    QVERIFY2(!bench->session.answerWatch().isActive(), "the link would be given up");
+    QVERIFY(bench->layerTimer("timeoutTimer")->isActive());
+    QCOMPARE(bench->settings.deviceType(), QString("TalVeroNew"));
+    QCOMPARE(bench->takeSent(), QByteArray(requests));
+}
+
+void SessionLinesTest::aBannerWhileConnectedIsAKeepAlive()
+{
+    bench->bring(SessionState::Connected);
+    bench->say("TalVero New HF 9.9.9");
+    QCOMPARE(bench->takeTold(), QStringList());
+    QCOMPARE(bench->takeLog(), QStringList());
+    QCOMPARE(bench->takeSent(), QByteArray());
+}
+
+void SessionLinesTest::aBannerLeavesTheSearchAtItsRate()
+{
+    bench->bring(SessionState::Searching);
+    bench->session.serialTimeout(false);
+    bench->say(SessionBench::banner);
+    QCOMPARE(bench->session.choices.rate, QString("9600"));
+    QCOMPARE(bench->session.port().baudRate, QString("9600"));
+    QCOMPARE(bench->state(), QString("Connected"));
+}
+
+void SessionLinesTest::anAcknowledgementIsAppendedInGreen_data()
+{
+    QTest::addColumn<QString>("line");
+    for (const char *line : {"OK", "xxOKxx", "OK and ERR", "UID : OK", "*HOK,Hg050", "*i9OK"}) {
+        QTest::newRow(line) << QString(line);
+    }
+}
+
+void SessionLinesTest::anAcknowledgementIsAppendedInGreen()
+{
+    QFETCH(QString, line);
+    bench->bring(SessionState::Connected);
+    bench->sendChange("Ping");
+    bench->say(line);
+    QCOMPARE(bench->takeTold(), QStringList{"info green: Setting Pings Per Second to 5 ... "
+                                            "Success"});
+    QCOMPARE(bench->session.info().topic().settingKey(), QString("Ping"));
+    QCOMPARE(bench->state(), QString("Connected"));
+    QVERIFY(!bench->isPortFree());
+    QCOMPARE(bench->takeSent(), QByteArray());
+}
+
+void SessionLinesTest::anAcknowledgementMayCloseTheLink_data()
+{
+    QTest::addColumn<QString>("rate");
+    QTest::addColumn<QString>("deviceRate");
+    QTest::addColumn<QString>("format");
+    QTest::addColumn<Topic>("topic");
+    QTest::addColumn<QString>("then"); // the rate at which to connect again; empty: it stays open
+
+    const Topic none;
+    const Topic format = Topic::setting("format");
+    const Topic pings = Topic::setting("Ping");
+    const Topic reset = Topic::factoryReset();
+    const auto row = [](const char *name, const char *rate, const char *deviceRate,
+                        const char *chosen, const Topic &topic, const char *then) {
+        QTest::newRow(name) << QString(rate) << QString(deviceRate) << QString(chosen) << topic
+                            << QString(then);
+    };
+    row("nothing announced", "9600", "9600", "ODOM", none, "");
+    row("a setting", "9600", "9600", "ODOM", pings, "");
+    row("a new rate", "9600", "38400", "ODOM", Topic::setting("baud"), "38400");
+    row("another setting while the rates differ", "9600", "38400", "ODOM", pings, "38400");
+    row("nothing announced while the rates differ", "9600", "4800", "ODOM", none, "4800");
+    row("ODOM at 19200", "19200", "19200", "ODOM", format, "");
+    row("KESTROLA at 9600", "9600", "9600", "KESTROLA", format, "");
+    row("KESTROLA at 4800", "4800", "4800", "KESTROLA", format, "9600");
+    row("KESTROLA at 115200", "115200", "115200", "KESTROLA", format, "9600");
+    row("KESTROLA and a new rate", "19200", "57600", "KESTROLA", format, "57600");
+    row("a setting under KESTROLA at 19200", "19200", "19200", "KESTROLA", pings, "");
+    row("a format that the list does not have", "19200", "19200", "", format, "");
+    row("the factory reset", "9600", "9600", "ODOM", reset, "9600");
+    row("the factory reset while the rates differ", "9600", "4800", "ODOM", reset, "4800");
+}
+
+void SessionLinesTest::anAcknowledgementMayCloseTheLink()
+{
+    QFETCH(QString, rate);
+    QFETCH(QString, deviceRate);
+    QFETCH(QString, format);
+    QFETCH(Topic, topic);
+    QFETCH(QString, then);
+    bench->bring(SessionState::Connected);
+    bench->session.choices = {bench->line.slavePath(), rate, deviceRate, format};
+    bench->session.info().show(InfoColour::Progress, "Announced", topic);
+    bench->takeTold();
+    bench->say("OK");
+
+    const bool closes = !then.isEmpty();
+    QStringList told{"info green: Announced ... Success"};
+    if (closes) {
+        told << (then == rate ? QStringList() : QStringList{"rate " + then}) << "state Offline";
+    }
+    QCOMPARE(bench->takeTold(), told);
+    QCOMPARE(bench->isPortFree(), closes);
+    QCOMPARE(bench->session.port().isConnected(), !closes);
+    QCOMPARE(bench->session.choices.rate, closes ? then : rate);
+    QVERIFY(!bench->session.answerWatch().isActive());
+    QCOMPARE(bench->takeSent(), QByteArray());
+}
+
+void SessionLinesTest::anAcknowledgementBeforeTheBannerIsNoBanner_data()
+{
+    QTest::addColumn<SessionState>("state");
+    QTest::addColumn<QString>("told");
+    QTest::newRow("connecting") << SessionState::Connecting
+                                << "info green: Connecting to Device ... Success";
+    QTest::newRow("searching") << SessionState::Searching
+                               << "info green: Trying 4800 baud ... Success";
+}
+
+/// A late answer of the last connection, while the rates agree: the attempt goes on.
+void SessionLinesTest::anAcknowledgementBeforeTheBannerIsNoBanner()
+{
+    QFETCH(SessionState, state);
+    QFETCH(QString, told);
+    bench->bring(state);
+    bench->session.choices.deviceRate = bench->session.choices.rate;
+    bench->say("OK");
+    QCOMPARE(bench->takeTold(), QStringList{told});
+    QVERIFY(bench->session.state() == state);
+    QVERIFY2(bench->session.answerWatch().isActive(), "the banner is still awaited");
+    QVERIFY(!bench->isPortFree());
+    QCOMPARE(bench->takeSent(), QByteArray());
+}
+
+/// The same while the rates differ.
+void SessionLinesTest::anAcknowledgementEndsAnAttemptAtAnotherRate()
+{
+    bench->bring(SessionState::Connecting);
+    bench->session.choices.deviceRate = "38400";
+    bench->say("OK");
+    QVERIFY(bench->takeTold().contains("rate 38400"));
+    QCOMPARE(bench->state(), QString("Offline"));
+    QVERIFY(!bench->session.answerWatch().isActive());
+    QVERIFY(bench->isPortFree());
+    QVERIFY(bench->session.press() == LinkSession::Press::Underway);
+    QCOMPARE(bench->session.port().baudRate, QString("38400"));
+}
+
+void SessionLinesTest::aRefusalGivesItsAdvice_data()
+{
+    QTest::addColumn<Topic>("topic");
+    QTest::addColumn<QString>("words");
+
+    const QString plain = "Received Error - Command Not Applied";
+    QTest::newRow("maximum depth")
+        << Topic::setting("Depth") << "not applied. Reduce pings per second";
+    QTest::newRow("pings") << Topic::setting("Ping") << "not applied. Reduce maximum depth";
+    QTest::newRow("another setting") << Topic::setting("highDraft") << plain;
+    QTest::newRow("a setting that is not known") << Topic::setting("highNothing") << plain;
+    QTest::newRow("the factory reset") << Topic::factoryReset() << plain;
+    QTest::newRow("nothing announced") << Topic() << plain;
+}
+
+void SessionLinesTest::aRefusalGivesItsAdvice()
+{
+    QFETCH(Topic, topic);
+    QFETCH(QString, words);
+    bench->bring(SessionState::Connected);
+    bench->session.info().show(InfoColour::Progress, "Announced", topic);
+    bench->takeTold();
+    bench->say("ERR");
+    QCOMPARE(bench->takeTold(), QStringList{"info red: Announced ... " + words});
+}
+
+void SessionLinesTest::aRefusalChangesNothingElse_data()
+{
+    QTest::addColumn<SessionState>("state");
+    for (const SessionState state : everyState) {
+        QTest::newRow(qPrintable(SessionBench::nameOf(state))) << state;
+    }
+}
+
+/// Whatever the rates: an acknowledgement would close the link here.
+void SessionLinesTest::aRefusalChangesNothingElse()
+{
+    QFETCH(SessionState, state);
+    bench->bring(state);
+    bench->session.choices.deviceRate = "38400";
+    const bool waits = bench->session.answerWatch().isActive();
+    const QString before = bench->session.info().text();
+    bench->say("ERR");
+    QCOMPARE(bench->takeTold(),
+             QStringList{"info red: " + before + " ... Received Error - Command Not Applied"});
+    QVERIFY(bench->session.state() == state);
+    QCOMPARE(bench->session.answerWatch().isActive(), waits);
+    QCOMPARE(bench->isPortFree(), state == SessionState::Offline);
+    QCOMPARE(bench->takeSent(), QByteArray());
+}
+
+void SessionLinesTest::anAnswerEndsTheWaitForIt_data()
+{
+    QTest::addColumn<QString>("answer");
+    QTest::newRow("OK") << "OK";
+    QTest::newRow("ERR") << "ERR";
+}
+
+/// The next silence is the link's own, not the change's.
+void SessionLinesTest::anAnswerEndsTheWaitForIt()
+{
+    QFETCH(QString, answer);
+    bench->bring(SessionState::Connected);
+    bench->sendChange("Velocity");
+    bench->say(answer);
+    QVERIFY(!bench->session.queue().isAwaitingAnswer());
+    bench->takeTold();
+    bench->session.serialTimeout(false);
+    QCOMPARE(bench->takeTold(),
+             (QStringList{"state Offline", "info red: Lost Connection To Device"}));
+}
+
+QTEST_MAIN(SessionLinesTest)
+
+#include "tst_sessionlines.moc"
