@@ -168,10 +168,10 @@ void SessionInfoLineTest::theBeginningOfALongTextIsKept_data()
 {
     QTest::addColumn<int>("length");
     QTest::addColumn<int>("kept");
-    QTest::newRow("999 characters") << 999 << 999;
-    QTest::newRow("1000 characters") << 1000 << 1000;
-    QTest::newRow("1001 characters") << 1001 << 1000;
-    QTest::newRow("100000 characters") << 100000 << 1000;
+    QTest::newRow("3999 characters") << 3999 << 3999;
+    QTest::newRow("4000 characters") << 4000 << 4000;
+    QTest::newRow("4001 characters") << 4001 << 4000;
+    QTest::newRow("100000 characters") << 100000 << 4000;
 }
 
 /// A line full of noise may answer without end.

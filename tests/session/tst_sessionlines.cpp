@@ -70,6 +70,9 @@ private slots:
     void anAcknowledgementBeforeTheBannerIsNoBanner_data();
     void anAcknowledgementBeforeTheBannerIsNoBanner();
     void anAcknowledgementEndsAnAttemptAtAnotherRate();
+    void anAcknowledgementLetsTheSearchGoOnBehindTheRateOfTheList_data();
+    void anAcknowledgementLetsTheSearchGoOnBehindTheRateOfTheList();
+    void answersAreToldOfTheSettingsInTheirOrder();
 
     void aRefusalGivesItsAdvice_data();
     void aRefusalGivesItsAdvice();
@@ -294,7 +297,9 @@ void SessionLinesTest::anAcknowledgementEndsAnAttemptAtAnotherRate()
     bench->bring(SessionState::Connecting);
     bench->session.choices.deviceRate = "38400";
     bench->say("OK");
-    QVERIFY(bench->takeTold().contains("rate 38400"));
+    QCOMPARE(bench->takeTold(),
+             (QStringList{"info green: Connecting to Device ... Success", "rate 38400",
+                          "state Offline", "info red: Could Not Connect To Device"}));
     QCOMPARE(bench->state(), QString("Offline"));
     QVERIFY(!bench->session.answerWatch().isActive());
     QVERIFY(bench->isPortFree());
@@ -372,6 +377,56 @@ void SessionLinesTest::anAnswerEndsTheWaitForIt()
     bench->session.serialTimeout(false);
     QCOMPARE(bench->takeTold(),
              (QStringList{"state Offline", "info red: Lost Connection To Device"}));
+}
+
+void SessionLinesTest::anAcknowledgementLetsTheSearchGoOnBehindTheRateOfTheList_data()
+{
+    QTest::addColumn<QString>("deviceRate");
+    QTest::addColumn<QString>("tried"); // empty: none is left
+    QTest::newRow("9600") << "9600"
+                          << "19200";
+    QTest::newRow("57600") << "57600"
+                           << "115200";
+    QTest::newRow("115200, the last one") << "115200"
+                                          << "";
+}
+
+void SessionLinesTest::anAcknowledgementLetsTheSearchGoOnBehindTheRateOfTheList()
+{
+    QFETCH(QString, deviceRate);
+    QFETCH(QString, tried);
+    bench->bring(SessionState::Searching);
+    bench->session.choices.deviceRate = deviceRate;
+    bench->say("OK");
+    QStringList told{"info green: Trying 4800 baud ... Success", "rate " + deviceRate};
+    if (tried.isEmpty()) {
+        told << "state Offline"
+             << "info red: Could Not Connect To Device";
+    } else {
+        told << "rate " + tried << "info black: Trying " + tried + " baud";
+    }
+    QCOMPARE(bench->takeTold(), told);
+    QCOMPARE(bench->state(), QString(tried.isEmpty() ? "Offline" : "Searching"));
+    QCOMPARE(bench->isPortFree(), tried.isEmpty());
+}
+
+/// Two changes are under way; the info line knows only of the last one.
+void SessionLinesTest::answersAreToldOfTheSettingsInTheirOrder()
+{
+    bench->bring(SessionState::Connected);
+    QStringList outcomes;
+    connect(&bench->session, &LinkSession::settingAccepted, this,
+            [&](const QString &key) { outcomes.append(key + " accepted"); });
+    connect(&bench->session, &LinkSession::settingNotApplied, this,
+            [&](const QString &key, const QString &words) { outcomes.append(key + ": " + words); });
+    bench->sendChange("Depth");
+    bench->sendChange("Velocity");
+    bench->session.sendAtOnce("Sending Save Command to Device", Protocol::Command::saveSettings);
+    bench->say("ERR");
+    bench->say("OK");
+    bench->say("ERR"); // the saving: no setting's
+    QCOMPARE(outcomes,
+             (QStringList{"Depth: not applied. Reduce pings per second", "Velocity accepted"}));
 }
 
 QTEST_MAIN(SessionLinesTest)
