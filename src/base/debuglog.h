@@ -44,12 +44,16 @@ inline QDebug windowLogLine(const char *path, int line, const char *function)
 #define DEBUG_LOG                                                                                  \
     debugLogLine(debugLogFileName(__FILE__), __LINE__, staticMetaObject.className(), __func__)
 
+/// The same in the name of another function, of which this one is a part.
+#define DEBUG_LOG_AS(function)                                                                     \
+    debugLogLine(debugLogFileName(__FILE__), __LINE__, staticMetaObject.className(), function)
+
 /// For classes that do a part of the window's work. Whoever searches in logs knows what the window
 /// does by the window's name ("mainwindow_commandqueue.cpp 57 MainWindow::sendLatestCommand"),
 /// however it divides that work.
 #define WINDOW_LOG windowLogLine(__FILE__, __LINE__, __func__)
 
-/// The same in the name of another function, of which this one is a part.
+/// Both.
 #define WINDOW_LOG_AS(function) windowLogLine(__FILE__, __LINE__, function)
 
 #endif // DEBUGLOG_H

@@ -19,6 +19,8 @@ struct CommonFields
     /// The controls that show this setting's value; none if the setting is none of these.
     QList<QWidget *> controlsOf(const SettingSpec &setting) const;
 
+    bool formatFixesOptions = false; ///< the chosen output format fixes rate, modes and gain law
+
     NumberField pings;
     NumberField velocity;
     NumberField maxDepth;

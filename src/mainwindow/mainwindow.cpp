@@ -44,6 +44,12 @@ std::unique_ptr<Ui::MainWindow> formOn(MainWindow &window)
     return form;
 }
 
+LinkChoices linkChoices(const Ui::MainWindow &form)
+{
+    return {form.portComboBox->currentText(), form.baudComboBox->currentText(),
+            form.newBaudComboBox->currentText(), form.formatComboBox->currentText()};
+}
+
 void styleLists(const Ui::MainWindow &form)
 {
     for (QComboBox *list :
@@ -68,7 +74,8 @@ MainWindow::MainWindow(PortLister portLister, QWidget *parent)
     : QMainWindow(parent)
     , ui(formOn(*this))
     , settings(portLister())
-    , session(settings, this)
+    , session(
+          settings, [this] { return linkChoices(*ui); }, this)
     , ports(*ui->portComboBox, std::move(portLister), this)
     , editor(settings, session.queue())
     , common(*this)
@@ -117,18 +124,9 @@ void MainWindow::makeConnections()
     connect(&session.pollClock(), SIGNAL(timeout()), this, SLOT(getLatestTemperature()));
 }
 
-/// What stands in the lists goes to the session, what the session tells is shown.
+/// Shows what the session tells.
 void MainWindow::connectSession()
 {
-    const std::pair<const QComboBox *, QString LinkChoices::*> lists[] = {
-        {ui->portComboBox, &LinkChoices::port},
-        {ui->baudComboBox, &LinkChoices::rate},
-        {ui->newBaudComboBox, &LinkChoices::deviceRate}, // the format is noted where it is chosen
-    };
-    for (const auto &[list, choice] : lists) {
-        connect(list, &QComboBox::currentTextChanged, this,
-                [this, choice = choice](const QString &entry) { session.choices.*choice = entry; });
-    }
     connect(&session.info(), &InfoLine::shown, this, &MainWindow::setInfoText);
     connect(&session.info(), &InfoLine::explained, ui->infoLabel, &QWidget::setToolTip);
     connect(&session, &LinkSession::stateChanged, this, &MainWindow::followLink);

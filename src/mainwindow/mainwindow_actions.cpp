@@ -21,9 +21,9 @@ void MainWindow::resetToFactory()
     question.setEscapeButton(QMessageBox::Cancel);
     const int answer = question.exec();
     if (answer == QMessageBox::Cancel) {
-        DEBUG_LOG << "Cancel was clicked";
+        DEBUG_LOG_AS("on_resetSettings_clicked") << "Cancel was clicked";
     } else if (answer == QMessageBox::Yes) {
-        DEBUG_LOG << "Yes was clicked";
+        DEBUG_LOG_AS("on_resetSettings_clicked") << "Yes was clicked";
         session.sendAtOnce("Sending Factory Reset to Device", Protocol::Command::factoryReset,
                            Topic::factoryReset());
     }
@@ -34,7 +34,7 @@ void MainWindow::updateFirmware()
     const char *obstacle = nullptr;
     if (session.state() == SessionState::Offline) {
         obstacle = "Connect to the TAL-VERO before updating the firmware.";
-    } else if (!session.choices.rate.contains(QLatin1String("9600"))) {
+    } else if (!session.choices().rate.contains(QLatin1String("9600"))) {
         obstacle = "Set the TAL-VERO baud rate to 9600 before updating the firmware.";
     }
     if (obstacle != nullptr) {
@@ -42,8 +42,9 @@ void MainWindow::updateFirmware()
         return;
     }
     pressConnect(); // disconnects: the updater needs the port
-    const QString port = session.choices.port;
-    DEBUG_LOG << "Starting Process" << firmwareUpdaterPath() << port;
+    const QString port = session.choices().port;
+    DEBUG_LOG_AS("on_BootloadButton_clicked")
+        << "Starting Process" << firmwareUpdaterPath() << port;
     if (!QProcess::startDetached(firmwareUpdaterPath(), {port})) {
         session.info().show(InfoColour::Failure, "Could Not Start The Firmware Updater");
     }
@@ -52,7 +53,7 @@ void MainWindow::updateFirmware()
 void MainWindow::rememberAutoSave(bool selected)
 {
     autoSave = selected;
-    DEBUG_LOG << "Autosave is " << autoSave;
+    DEBUG_LOG_AS("on_autoSave_toggled") << "Autosave is " << autoSave;
 }
 
 void MainWindow::toggleFooter()

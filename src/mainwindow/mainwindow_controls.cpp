@@ -3,7 +3,6 @@
 
 #include "mainwindow.h"
 
-#include "outputformat.h"
 #include "ui_mainwindow.h"
 
 #include <QPointer>
@@ -25,8 +24,7 @@ void placeLostFocus(const QWidget &window, const Ui::MainWindow &form, bool isCo
 
 ControlRules::State MainWindow::controlState() const
 {
-    const OutputFormat *format = OutputFormats::find(session.choices.format);
-    return {session.state(), high.state, low.state, format != nullptr && format->fixesOptions()};
+    return {session.state(), high.state, low.state, common.formatFixesOptions};
 }
 
 void MainWindow::updateControls() { allow(ControlRules::usable(controlState())); }
@@ -49,7 +47,9 @@ void MainWindow::allow(const ControlRules::Usable &usable)
         control->setEnabled(isConnected);
     }
     ui->newBaudComboBox->setEnabled(usable.common.testFlag(CommonGroup::OutputRate));
-    ui->newBaudLabel->setDisabled(controlState().formatFixesOptions);
+    if (isConnected) {
+        ui->newBaudLabel->setDisabled(common.formatFixesOptions);
+    }
     ui->temperatureLabel->clear();
     session.forgetStatus();
     high.allow(usable.high);

@@ -15,7 +15,7 @@ void MainWindow::parseDepth(const QString &line)
     context.lowEnabled = low.enable->isChecked();
     context.highIsOff = high.state.isOff();
     context.lowIsOff = low.state.isOff();
-    context.outputFormat = session.choices.format;
+    context.outputFormat = session.choices().format;
     context.imperial = settings.isImperial();
     const SoundingView view = soundings.parseDepth(line, context);
     if (view.depths) {

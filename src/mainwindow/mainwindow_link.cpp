@@ -41,7 +41,7 @@ const FitMeaning *meaningOf(Protocol::ChannelFit fit)
 ControlRules::ChannelState identifiedChannel(ControlRules::ChannelState state, bool fitted)
 {
     state.fitted = fitted;
-    state.switchedOn = true;
+    state.switchedOn = fitted;
     state.resting = false;
     state.switchHeld = false;
     return state;
@@ -89,7 +89,9 @@ void MainWindow::pressConnect()
 
 void MainWindow::followLink(SessionState state)
 {
-    updateControls();
+    if (state == SessionState::Offline || state == SessionState::Connected) {
+        updateControls();
+    }
     if (state == SessionState::Offline) {
         marks.clear();
         showDepthsAlive(false);

@@ -5,6 +5,7 @@
 
 #include "marks.h"
 #include "numbertext.h"
+#include "outputformat.h"
 #include "ui_mainwindow.h"
 #include "units.h"
 
@@ -64,9 +65,12 @@ void MainWindow::followHighShallow(bool shallow)
         return;
     }
     low.state.switchHeld = shallow;
-    low.state.resting = shallow;
-    if (!shallow) {
-        low.state.switchedOn = low.enable->isChecked();
+    if (shallow) {
+        low.state.resting = true;
+    } else if (low.enable->isChecked()) {
+        low.state.wake();
+    } else if (low.state.resting) {
+        low.state.sleep(); // it was off before it rested
     }
     updateControls();
 }
@@ -79,21 +83,24 @@ void MainWindow::switchChannel(bool checked, ChannelPane &pane, bool on,
         return;
     }
     session.sendAtOnce(announcement, command);
-    pane.state.switchedOn = on;
     if (on) {
-        pane.state.resting = false;
+        pane.state.wake();
         pane.state.automatic = pane.state.automatic || !pane.manual->isChecked();
+    } else {
+        pane.state.switchedOn = false;
     }
     updateControls();
 }
 
 void MainWindow::chooseFormat(const QString &format)
 {
-    session.choices.format = format; // decides what can be used
-    if (!editor.isPaused()) {
-        editor.changeStringSetting("format", format);
-        updateControls();
+    if (editor.isPaused()) {
+        return;
     }
+    editor.changeStringSetting("format", format);
+    const OutputFormat *chosen = OutputFormats::find(format);
+    common.formatFixesOptions = chosen != nullptr && chosen->fixesOptions();
+    updateControls();
 }
 
 void MainWindow::changeMaxDepth(int direction)

@@ -77,9 +77,11 @@ void MainWindow::applyRate(const QString &value)
 
 void MainWindow::applyFormat(const QString &value)
 {
-    const int number = ReplyValues::letter(value).unicode() - '0';
-    if (const OutputFormat *format = OutputFormats::findByNumber(number)) {
-        ui->formatComboBox->setCurrentText(format->name);
+    const int place = ReplyValues::formatPlace(ReplyValues::letter(value));
+    if (place >= 0) {
+        const OutputFormat &format = OutputFormats::all().at(static_cast<std::size_t>(place));
+        ui->formatComboBox->setCurrentText(format.name);
+        common.formatFixesOptions = format.fixesOptions(); // however it came to be chosen
         updateControls();
     }
 }

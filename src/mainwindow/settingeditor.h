@@ -58,14 +58,12 @@ public:
     /// The same for an option of several, if it is the one that was checked.
     void chooseWord(bool checked, const QString &name, const QString &word);
 
-    /// Moves a field's slider, and with it, unless paused, the setting.
-    void setSliderField(const NumberField &field, int position);
-
 private:
     struct Road;
 
     float changeField(const NumberField &field, float asked, const Road &road);
     void changeSliderWithClick(const NumberField &field, int delta);
+    void setSliderField(const NumberField &field, int position);
 
     static const Road counterRoad;
     static const Road measureRoad;

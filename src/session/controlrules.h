@@ -20,8 +20,22 @@ struct ChannelState
     bool switchHeld = false; ///< its on and off buttons wait for the end of that rest
     bool automatic = false;  ///< Auto or Shallow: the manual settings do not apply
 
-    /// Whether it pings not, for whatever reason.
-    bool isOff() const { return !fitted || !switchedOn || resting; }
+    /// Whether it pings not, for whatever reason. (One that is not fitted counts as switched off.)
+    bool isOff() const { return !switchedOn || resting; }
+
+    /// It pings again.
+    void wake()
+    {
+        switchedOn = true;
+        resting = false;
+    }
+
+    /// It rests no longer, and pings not either.
+    void sleep()
+    {
+        switchedOn = false;
+        resting = false;
+    }
 };
 
 struct State

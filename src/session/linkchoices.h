@@ -6,9 +6,10 @@
 
 #include <QString>
 
+#include <functional>
+
 /// What stands in the lists from which the operator chooses how to reach the sounder, and how the
-/// sounder is to speak. The window notes every change here, so that the link knows them without
-/// looking at the window.
+/// sounder is to speak.
 struct LinkChoices
 {
     /// The entry of the port list that is no port.
@@ -19,5 +20,8 @@ struct LinkChoices
     QString deviceRate; ///< at which the sounder is to speak
     QString format;     ///< in which the sounder is to output its depths
 };
+
+/// Tells what stands there at this moment: all that the session ever asks of the window.
+using ChoicesSource = std::function<LinkChoices()>;
 
 #endif // LINKCHOICES_H

@@ -18,9 +18,10 @@ constexpr auto pollInterval = 5s;
 
 } // namespace
 
-LinkSession::LinkSession(Settings &itsSettings, QObject *parent)
+LinkSession::LinkSession(Settings &itsSettings, ChoicesSource choices, QObject *parent)
     : QObject(parent)
     , settings(itsSettings)
+    , currentChoices(std::move(choices))
     , commandQueue(settings, serial, infoLine, this)
 {
     answerTimer.setObjectName(QStringLiteral("answerTimer"));
@@ -46,10 +47,10 @@ LinkSession::Press LinkSession::press()
         disconnectFromDevice();
         return Press::Disconnected;
     }
-    if (choices.port == LinkChoices::noPort || choices.rate == RateSearch::notChosen) {
+    if (choices().port == LinkChoices::noPort || choices().rate == RateSearch::notChosen) {
         return Press::NotChosen;
     }
-    if (choices.rate == RateSearch::searchAll) {
+    if (choices().rate == RateSearch::searchAll) {
         startSearch();
         return Press::Underway;
     }
@@ -67,7 +68,7 @@ void LinkSession::startSearch()
 
 bool LinkSession::connectAtRate()
 {
-    if (!openLink(choices.port, choices.rate)) {
+    if (!openLink(choices().port, choices().rate)) {
         return false;
     }
     WINDOW_LOG << "Opened Serial Port";
@@ -102,23 +103,17 @@ void LinkSession::closeLink()
     commandQueue.forgetSent();
 }
 
-void LinkSession::moveRateTo(const QString &rate)
-{
-    choices.rate = rate;
-    emit rateChosen(rate);
-}
-
 /// Tries the next rate of the list. False when there is none left or the port does not open.
 bool LinkSession::doAutoBaud()
 {
-    const auto rate = RateSearch::next(RateSearch::choices(settings.baudList()), choices.rate);
+    const auto rate = RateSearch::next(RateSearch::choices(settings.baudList()), choices().rate);
     if (!rate) {
         return false;
     }
-    moveRateTo(*rate);
+    emit rateChosen(*rate);
     WINDOW_LOG << "current text is now " << *rate;
     closeLink();
-    if (!openLink(choices.port, *rate)) {
+    if (!openLink(choices().port, *rate)) {
         WINDOW_LOG << "Connection failed";
         infoLine.explain(portTrouble());
         return false;

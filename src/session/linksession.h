@@ -20,16 +20,13 @@ class Settings;
 /// and each of its silences means, and the end. It knows no widget. The window tells it what the
 /// operator does and hears of the rest by signals.
 ///
-/// Three watches meet here:
-/// - The serial layer's answer timer runs for 2 s from each command on; any byte stops it.
-/// - This session's answer timer runs for 2 s from the beginning of each attempt to connect on;
-/// only
-///   the sounder's banner stops it: noise at a wrong rate is no answer.
-/// - Every 5 s the unit's temperature or voltage is asked for, unless something is announced. That
-/// is
-///   a command like any other, so the silence of a sounder that is gone is noticed 2 s later.
-/// The layer's keep-alive, sent after 10 s without traffic, thus finds its work done as long as the
-/// poll runs. It is what remains while an announcement holds the poll back.
+/// Three watches meet here. The serial layer's answer timer runs for 2 s from each command on; any
+/// byte stops it. This session's answer timer runs for 2 s from the beginning of each attempt to
+/// connect on; only the sounder's banner stops it, since noise at a wrong rate is no answer. And
+/// every 5 s the unit's temperature or voltage is asked for, unless something is announced: a
+/// command like any other, so that the silence of a sounder that is gone is noticed 2 s later. The
+/// layer's keep-alive, sent after 10 s without traffic, finds its work done by that poll, and
+/// remains while announcements hold it back.
 ///
 /// The timers and the layer are wired by whoever owns the session: in the program that is the
 /// window, whose slots others may call by their names.
@@ -38,13 +35,14 @@ class LinkSession : public QObject
     Q_OBJECT
 
 public:
-    /// Offline. Keeps `settings` for the queue and for the rates; they outlive the session.
-    explicit LinkSession(Settings &settings, QObject *parent = nullptr);
+    /// Offline. Keeps `settings` for the queue and for the rates; they outlive the session, and so
+    /// does what `choices` looks at.
+    LinkSession(Settings &settings, ChoicesSource choices, QObject *parent = nullptr);
 
     SessionState state() const { return currentState; }
 
-    /// What stands in the operator's lists now: kept up to date by the window.
-    LinkChoices choices;
+    /// What stands in the operator's lists now.
+    LinkChoices choices() const { return currentChoices(); }
 
     InfoLine &info() { return infoLine; }
     CommandQueue &queue() { return commandQueue; }
@@ -135,7 +133,6 @@ private:
     void searchOn();
     void closeToReconnect();
     void closeForAcknowledgement();
-    void moveRateTo(const QString &rate);
 
     void handleLine(const QString &line);
     void acceptBanner(const QString &line);
@@ -148,6 +145,7 @@ private:
     void passDepth(const QString &line);
 
     Settings &settings;
+    ChoicesSource currentChoices;
     SerialPortLayer serial;
     InfoLine infoLine{this};
     CommandQueue commandQueue;

@@ -82,15 +82,15 @@ void LinkSession::acknowledge(const QString & /*line*/)
     if (!key.isEmpty()) {
         emit settingAccepted(key);
     }
-    if (choices.rate != choices.deviceRate) {
-        moveRateTo(choices.deviceRate);
+    if (choices().rate != choices().deviceRate) {
+        emit rateChosen(choices().deviceRate);
         closeForAcknowledgement();
     } else if (infoLine.topic().settingKey() == QLatin1String("format")) {
-        const OutputFormat *format = OutputFormats::find(choices.format);
+        const OutputFormat *format = OutputFormats::find(choices().format);
         // The device changes to the format's own rate by itself.
         if (format != nullptr && format->fixedRate != 0 &&
-            choices.rate.toInt() != format->fixedRate) {
-            moveRateTo(QString::number(format->fixedRate));
+            choices().rate.toInt() != format->fixedRate) {
+            emit rateChosen(QString::number(format->fixedRate));
             closeForAcknowledgement();
         }
     } else if (infoLine.topic().isFactoryReset()) {
@@ -117,7 +117,7 @@ void LinkSession::parseSetting(const QString &line)
 
 void LinkSession::readIdentifier(const QString &line)
 {
-    WINDOW_LOG << line.split(QLatin1Char(' '));
+    WINDOW_LOG_AS("showIdentifier") << line.split(QLatin1Char(' '));
     constexpr int shownCharacters = 8;
     emit identifierRead(Protocol::blankSeparatedItem(line, 2).left(shownCharacters));
 }

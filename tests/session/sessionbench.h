@@ -30,7 +30,7 @@ public:
         if (!line.isOpen()) {
             qFatal("the system gave no pseudo-terminal");
         }
-        session.choices = {line.slavePath(), "9600", "9600", "NMEA DBS"};
+        choices = {line.slavePath(), "9600", "9600", "NMEA DBS"};
         slowDown();
         wire();
         noteWhatItTells();
@@ -41,7 +41,7 @@ public:
     void bring(SessionState state)
     {
         if (state != SessionState::Offline) {
-            session.choices.rate = state == SessionState::Searching ? "Auto" : "9600";
+            choices.rate = state == SessionState::Searching ? "Auto" : "9600";
             session.press();
         }
         if (state == SessionState::Connected) {
@@ -132,7 +132,8 @@ public:
     LogCapture log;
     RawPty line;
     Settings settings{QStringList()};
-    LinkSession session{settings};
+    LinkChoices choices; ///< what stands in the lists: the session moves the rate, nothing else
+    LinkSession session{settings, [this] { return choices; }};
     bool excused = false; ///< whether a silence is excused that a timer finds
 
 private:
@@ -153,6 +154,8 @@ private:
             QObject::connect(&session.port(), &SerialPortLayer::gotData, &session,
                              &LinkSession::gotSerialData);
         }
+        QObject::connect(&session, &LinkSession::rateChosen, &session,
+                         [this](const QString &rate) { choices.rate = rate; });
         QObject::connect(&session.port(), &SerialPortLayer::gotTimeout, &session, silence);
         QObject::connect(&session.answerWatch(), &QTimer::timeout, &session, silence);
         QObject::connect(&session.info().timer(), &QTimer::timeout, &session.info(),

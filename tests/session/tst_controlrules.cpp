@@ -16,7 +16,7 @@ namespace {
 constexpr ChannelState manual;
 
 constexpr ChannelState automatic{true, true, false, false, true};
-constexpr ChannelState missing{false, true, false, false, false};
+constexpr ChannelState missing{false, false, false, false, false};
 constexpr ChannelState switchedOff{true, false, false, false, false};
 constexpr ChannelState resting{true, true, true, false, false};
 constexpr ChannelState held{true, true, false, true, false};
@@ -130,9 +130,6 @@ void ControlRulesTest::aConnectedChannelOffers_data()
     restingAndOff.switchedOn = false;
     ChannelState heldAndAutomatic = held;
     heldAndAutomatic.automatic = true;
-    ChannelState missingAndOff = missing;
-    missingAndOff.switchedOn = false;
-
     row("manual mode", manual, everything, "enable inputs manual");
     row("an automatic mode", automatic, "enable mode tvg inputs", "enable inputs");
     row("switched off", switchedOff, "enable", "enable");
@@ -143,7 +140,6 @@ void ControlRulesTest::aConnectedChannelOffers_data()
     row("switch held", held, "mode tvg inputs manual", "inputs manual");
     row("switch held, automatic", heldAndAutomatic, "mode tvg inputs", "inputs");
     row("missing", missing, "", "");
-    row("missing, switched off", missingAndOff, "", "");
 }
 
 void ControlRulesTest::aConnectedChannelOffers()

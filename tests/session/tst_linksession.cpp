@@ -66,7 +66,7 @@ void LinkSessionTest::atTheStartItIsOffline()
 
 void LinkSessionTest::itsTimersHaveTheirIntervals()
 {
-    LinkSession fresh(bench->settings);
+    LinkSession fresh(bench->settings, [] { return LinkChoices(); });
     QCOMPARE(fresh.answerWatch().interval(), 2000);
     QVERIFY(fresh.answerWatch().isSingleShot());
     QVERIFY(!fresh.answerWatch().isActive());
@@ -94,14 +94,14 @@ void LinkSessionTest::aPressWithoutAChoiceChangesNothing()
 {
     QFETCH(QString, port);
     QFETCH(QString, rate);
-    bench->session.choices.port = port;
-    bench->session.choices.rate = rate;
+    bench->choices.port = port;
+    bench->choices.rate = rate;
     QVERIFY(bench->session.press() == Press::NotChosen);
     QCOMPARE(bench->takeTold(), QStringList());
     QCOMPARE(bench->takeLog(), QStringList());
     QCOMPARE(bench->state(), QString("Offline"));
     QVERIFY(!bench->session.answerWatch().isActive());
-    QCOMPARE(bench->session.choices.rate, rate);
+    QCOMPARE(bench->choices.rate, rate);
 }
 
 void LinkSessionTest::aPressAtARateConnects_data()
@@ -115,7 +115,7 @@ void LinkSessionTest::aPressAtARateConnects_data()
 void LinkSessionTest::aPressAtARateConnects()
 {
     QFETCH(QString, rate);
-    bench->session.choices.rate = rate;
+    bench->choices.rate = rate;
     QVERIFY(bench->session.press() == Press::Underway);
     QCOMPARE(bench->takeTold(),
              (QStringList{"info black: Connecting to Device", "state Connecting"}));
@@ -129,14 +129,14 @@ void LinkSessionTest::aPressAtARateConnects()
 
 void LinkSessionTest::aPressAtAutoSearches()
 {
-    bench->session.choices.rate = "Auto";
+    bench->choices.rate = "Auto";
     QVERIFY(bench->session.press() == Press::Underway);
     QCOMPARE(bench->takeTold(),
              (QStringList{"rate 4800", "info black: Trying 4800 baud", "state Searching"}));
     QCOMPARE(bench->takeLog(), (QStringList{"GOING AUTO!", "current text is now  \"4800\""}));
     QVERIFY(bench->session.answerWatch().isActive());
     QCOMPARE(bench->session.port().baudRate, QString("4800"));
-    QCOMPARE(bench->session.choices.rate, QString("4800"));
+    QCOMPARE(bench->choices.rate, QString("4800"));
     QCOMPARE(bench->takeSent(), QByteArray(wakeUp) + probe);
 }
 
@@ -152,7 +152,7 @@ void LinkSessionTest::aPressEndsWhatGoesOn()
 {
     QFETCH(SessionState, state);
     bench->bring(state);
-    const QString rate = bench->session.choices.rate;
+    const QString rate = bench->choices.rate;
     QVERIFY(bench->session.press() == Press::Disconnected);
     QCOMPARE(bench->takeTold(), (QStringList{"info black: ", "state Offline"}));
     QCOMPARE(bench->takeLog(), QStringList{"disconnecting from device"});
@@ -160,10 +160,10 @@ void LinkSessionTest::aPressEndsWhatGoesOn()
     QVERIFY(!bench->layerTimer("timeoutTimer")->isActive());
     QVERIFY(!bench->session.port().isConnected());
     QVERIFY2(bench->isPortFree(), "the port is still held");
-    QCOMPARE(bench->session.choices.rate, rate);
+    QCOMPARE(bench->choices.rate, rate);
     QCOMPARE(bench->takeSent(), QByteArray());
 
-    bench->session.choices.rate = "9600";
+    bench->choices.rate = "9600";
     QVERIFY2(bench->session.press() == Press::Underway, "the next press does not connect");
 }
 
@@ -180,7 +180,7 @@ void LinkSessionTest::aPortThatDoesNotOpenChangesNothing()
     QSerialPort otherProgram(bench->line.slavePath());
     QVERIFY(otherProgram.open(QIODevice::ReadWrite));
     if (!isThere) {
-        bench->session.choices.port = nobody;
+        bench->choices.port = nobody;
     }
     QVERIFY(bench->session.press() == Press::NotOpened);
     QCOMPARE(bench->takeTold(), QStringList());
@@ -193,8 +193,8 @@ void LinkSessionTest::aPortThatDoesNotOpenChangesNothing()
 
 void LinkSessionTest::aSearchAtAPortThatDoesNotOpenEndsWithItsFirstSilence()
 {
-    bench->session.choices.port = nobody;
-    bench->session.choices.rate = "Auto";
+    bench->choices.port = nobody;
+    bench->choices.rate = "Auto";
     QVERIFY(bench->session.press() == Press::Underway);
     QCOMPARE(bench->takeTold(), (QStringList{"rate 4800", "state Searching"}));
     QCOMPARE(bench->takeLog(),

@@ -180,7 +180,7 @@ void SessionLinesTest::aBannerLeavesTheSearchAtItsRate()
     bench->bring(SessionState::Searching);
     bench->session.serialTimeout(false);
     bench->say(SessionBench::banner);
-    QCOMPARE(bench->session.choices.rate, QString("9600"));
+    QCOMPARE(bench->choices.rate, QString("9600"));
     QCOMPARE(bench->session.port().baudRate, QString("9600"));
     QCOMPARE(bench->state(), QString("Connected"));
 }
@@ -248,7 +248,7 @@ void SessionLinesTest::anAcknowledgementMayCloseTheLink()
     QFETCH(Topic, topic);
     QFETCH(QString, then);
     bench->bring(SessionState::Connected);
-    bench->session.choices = {bench->line.slavePath(), rate, deviceRate, format};
+    bench->choices = {bench->line.slavePath(), rate, deviceRate, format};
     bench->session.info().show(InfoColour::Progress, "Announced", topic);
     bench->takeTold();
     bench->say("OK");
@@ -261,7 +261,7 @@ void SessionLinesTest::anAcknowledgementMayCloseTheLink()
     QCOMPARE(bench->takeTold(), told);
     QCOMPARE(bench->isPortFree(), closes);
     QCOMPARE(bench->session.port().isConnected(), !closes);
-    QCOMPARE(bench->session.choices.rate, closes ? then : rate);
+    QCOMPARE(bench->choices.rate, closes ? then : rate);
     QVERIFY(!bench->session.answerWatch().isActive());
     QCOMPARE(bench->takeSent(), QByteArray());
 }
@@ -282,7 +282,7 @@ void SessionLinesTest::anAcknowledgementBeforeTheBannerIsNoBanner()
     QFETCH(SessionState, state);
     QFETCH(QString, told);
     bench->bring(state);
-    bench->session.choices.deviceRate = bench->session.choices.rate;
+    bench->choices.deviceRate = bench->choices.rate;
     bench->say("OK");
     QCOMPARE(bench->takeTold(), QStringList{told});
     QVERIFY(bench->session.state() == state);
@@ -295,7 +295,7 @@ void SessionLinesTest::anAcknowledgementBeforeTheBannerIsNoBanner()
 void SessionLinesTest::anAcknowledgementEndsAnAttemptAtAnotherRate()
 {
     bench->bring(SessionState::Connecting);
-    bench->session.choices.deviceRate = "38400";
+    bench->choices.deviceRate = "38400";
     bench->say("OK");
     QCOMPARE(bench->takeTold(),
              (QStringList{"info green: Connecting to Device ... Success", "rate 38400",
@@ -346,7 +346,7 @@ void SessionLinesTest::aRefusalChangesNothingElse()
 {
     QFETCH(SessionState, state);
     bench->bring(state);
-    bench->session.choices.deviceRate = "38400";
+    bench->choices.deviceRate = "38400";
     const bool waits = bench->session.answerWatch().isActive();
     const QString before = bench->session.info().text();
     bench->say("ERR");
@@ -396,7 +396,7 @@ void SessionLinesTest::anAcknowledgementLetsTheSearchGoOnBehindTheRateOfTheList(
     QFETCH(QString, deviceRate);
     QFETCH(QString, tried);
     bench->bring(SessionState::Searching);
-    bench->session.choices.deviceRate = deviceRate;
+    bench->choices.deviceRate = deviceRate;
     bench->say("OK");
     QStringList told{"info green: Trying 4800 baud ... Success", "rate " + deviceRate};
     if (tried.isEmpty()) {

@@ -156,13 +156,13 @@ void SessionSilenceTest::aSearchTriesEachRateOnceAndFails()
     QCOMPARE(bench->takeLog(), QStringList{"SERIAL TIMED OUT"});
     QVERIFY(!bench->session.answerWatch().isActive());
     QVERIFY(bench->isPortFree());
-    QCOMPARE(bench->session.choices.rate, QString("115200"));
+    QCOMPARE(bench->choices.rate, QString("115200"));
 }
 
 void SessionSilenceTest::aPortThatVanishesEndsTheSearch()
 {
     bench->bring(SessionState::Searching);
-    bench->session.choices.port = nobody;
+    bench->choices.port = nobody;
     bench->session.serialTimeout(false);
     QCOMPARE(bench->takeTold(), (QStringList{"rate 9600", "state Offline", notConnected}));
     QVERIFY(!bench->session.answerWatch().isActive());
