@@ -77,6 +77,7 @@ MainWindow::MainWindow(PortLister portLister, QWidget *parent)
     , session(
           settings, [this] { return linkChoices(*ui); }, this)
     , ports(*ui->portComboBox, std::move(portLister), this)
+    , busy(*ui->busyIndicator)
     , editor(settings, session.queue())
     , common(*this)
     , high(*this, "high", "HF")

@@ -4,6 +4,7 @@
 #ifndef MAINWINDOW_H
 #define MAINWINDOW_H
 
+#include "busyindicator.h"
 #include "channelpane.h"
 #include "commonfields.h"
 #include "depthgraph.h"
@@ -233,6 +234,7 @@ private:
     Settings settings;
     LinkSession session;
     PortChooser ports;
+    BusyIndicator busy;
     SettingEditor editor;
     CommonFields common;
     ChannelPane high;
