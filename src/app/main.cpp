@@ -3,6 +3,7 @@
 
 #include "appearance.h"
 #include "mainwindow.h"
+#include "screenfit.h"
 
 #include <QApplication>
 
@@ -13,6 +14,7 @@ int main(int argc, char **argv)
     QApplication application(argc, argv);
     giveProgramStyle();
     MainWindow window;
+    fitToScreen(window);
     window.show();
     return QApplication::exec();
 }
