@@ -19,15 +19,17 @@ PixelRange united(const std::vector<PixelRange> &ranges)
 
 } // namespace
 
-bool ChartPicture::hasTheSameGround(const QSize &size, const DepthChartData &chart) const
+bool ChartPicture::hasTheSameGround(const QSize &size, double ratio,
+                                    const DepthChartData &chart) const
 {
-    return canvas.size() == size && haveTheSameScale(drawn, chart);
+    return canvas.size() == size && canvas.devicePixelRatio() == ratio &&
+           haveTheSameScale(drawn, chart);
 }
 
-void ChartPicture::draw(const QSize &size, const DepthChartData &chart)
+void ChartPicture::draw(const QSize &size, const DepthChartData &chart, double ratio)
 {
-    const std::vector<PixelRange> newRows = sampleRows(size, chart, strips);
-    if (hasTheSameGround(size, chart)) {
+    const std::vector<PixelRange> newRows = sampleRows(size, ratio, chart, strips);
+    if (hasTheSameGround(size, ratio, chart)) {
         const PixelRange touched = united(rows).united(united(newRows));
         drawDepthChart(canvas, chart,
                        {std::max(touched.begin, 0), std::min(touched.end, size.height())});
@@ -35,6 +37,7 @@ void ChartPicture::draw(const QSize &size, const DepthChartData &chart)
         if (canvas.size() != size) {
             canvas = QImage(size, QImage::Format_RGB32);
         }
+        canvas.setDevicePixelRatio(ratio);
         drawDepthChart(canvas, chart);
     }
     drawn = chart;
@@ -43,7 +46,7 @@ void ChartPicture::draw(const QSize &size, const DepthChartData &chart)
 
 QRegion ChartPicture::difference(const ChartPicture &other) const
 {
-    if (!hasTheSameGround(other.canvas.size(), other.drawn)) {
+    if (!hasTheSameGround(other.canvas.size(), other.canvas.devicePixelRatio(), other.drawn)) {
         return canvas.rect();
     }
     QRegion region;

@@ -16,8 +16,8 @@
 class ChartPicture
 {
 public:
-    /// Draws the chart in this size.
-    void draw(const QSize &size, const DepthChartData &chart);
+    /// Draws the chart in this size in pixels, for a screen of this device pixel ratio.
+    void draw(const QSize &size, const DepthChartData &chart, double ratio = 1.0);
 
     /// Null before the first drawing. Whoever shares its pixels keeps them as they are; the next
     /// drawing then costs a copy.
@@ -26,11 +26,11 @@ public:
     /// The chart that it shows.
     const DepthChartData &chart() const { return drawn; }
 
-    /// Where this picture may differ from another: no pixel outside of it does.
+    /// Where this picture may differ from another, in pixels: no pixel outside of it does.
     QRegion difference(const ChartPicture &other) const;
 
 private:
-    bool hasTheSameGround(const QSize &size, const DepthChartData &chart) const;
+    bool hasTheSameGround(const QSize &size, double ratio, const DepthChartData &chart) const;
 
     QImage canvas;
     DepthChartData drawn;

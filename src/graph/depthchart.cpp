@@ -49,11 +49,11 @@ double rangeInUnits(const DepthChartData &chart)
     return static_cast<double>(static_cast<float>(chart.graphRange) * chart.unitFactor);
 }
 
-/// From the data to pixels, for a canvas of this size.
+/// From the data to pixels, for a canvas of this size in them.
 class Geometry
 {
 public:
-    Geometry(const QSize &canvas, const DepthChartData &chart)
+    Geometry(const QSizeF &canvas, const DepthChartData &chart)
         : width(canvas.width())
         , height(canvas.height())
         , unitFactor(static_cast<double>(chart.unitFactor))
@@ -81,16 +81,16 @@ private:
 
 bool hasDepth(float depth) { return depth != DepthChartData::noDepth; }
 
-constexpr double dotReach = 4.0; // half a dot, and more
+constexpr double dotReach = 4.0; // half a dot, and more, at a device pixel ratio of 1
 
-/// The rows of all strokes of a ping and a few more; empty if it has no depth.
-PixelRange rowsOf(const DepthSample &sample, const Geometry &geometry)
+/// The rows of all strokes of a ping, which reach so far around its depths; empty if it has none.
+PixelRange rowsOf(const DepthSample &sample, const Geometry &geometry, double reach)
 {
     PixelRange rows;
     for (const float depth : {sample.hf, sample.lf}) {
         if (hasDepth(depth)) {
             const double y = geometry.y(static_cast<double>(depth)) + geometry.top();
-            rows = rows.united({wholePixel(y - dotReach), wholePixel(y + dotReach)});
+            rows = rows.united({wholePixel(y - reach), wholePixel(y + reach)});
         }
     }
     return rows;
@@ -112,7 +112,7 @@ struct PlacedSample
     PixelRange rows;
 };
 
-PlacedSample placed(const DepthSample &sample, int index, const Geometry &geometry,
+PlacedSample placed(const DepthSample &sample, int index, const Geometry &geometry, double reach,
                     const PixelStrokes &strokes)
 {
     const double x = geometry.x(index);
@@ -129,18 +129,18 @@ PlacedSample placed(const DepthSample &sample, int index, const Geometry &geomet
     result.hasHf = hasDepth(sample.hf);
     result.hasLf = hasDepth(sample.lf);
     result.hasConnector = result.hasHf && result.hasLf && sample.hf != 0.0F && sample.lf != 0.0F;
-    result.rows = rowsOf(sample, geometry);
+    result.rows = rowsOf(sample, geometry, reach);
     return result;
 }
 
 /// The newest sample stands at the right edge, older ones to the left.
 std::vector<PlacedSample> placedSamples(const DepthChartData &chart, const Geometry &geometry,
-                                        const PixelStrokes &strokes)
+                                        double reach, const PixelStrokes &strokes)
 {
     std::vector<PlacedSample> samples;
     samples.reserve(static_cast<std::size_t>(chart.samples.size()));
     for (int i = 0; i < chart.samples.size(); ++i) {
-        samples.push_back(placed(chart.samples.at(i), i, geometry, strokes));
+        samples.push_back(placed(chart.samples.at(i), i, geometry, reach, strokes));
     }
     return samples;
 }
@@ -202,8 +202,10 @@ double scaleStep(int graphRange)
     return sixth;
 }
 
-void drawScale(QPainter &painter, PixelStrokes &strokes, const Geometry &geometry,
-               const DepthChartData &chart)
+/// The lines are drawn in the canvas's pixels, the texts in the chart's own: a painter makes them
+/// as large as the screen is dense. A line lies over the text of the mark above it.
+void drawScale(QPainter &painter, PixelStrokes &strokes, const Geometry &inPixels,
+               const Geometry &geometry, const DepthChartData &chart)
 {
     const QFont font(QStringLiteral("MS Shell Dlg 2"), 9, QFont::Bold);
     const double textOffset = QFontMetrics(font).height() * 0.4;
@@ -211,11 +213,11 @@ void drawScale(QPainter &painter, PixelStrokes &strokes, const Geometry &geometr
     const double end = chart.graphRange * scaleShare * static_cast<double>(chart.unitFactor);
     painter.setFont(font);
     for (int mark = 0; mark < end; mark = static_cast<int>(mark + step)) {
-        const double y = geometry.yOfMark(mark);
-        strokes.horizontalLine(geometry.width * 0.1, geometry.width * 0.975, y + geometry.top(),
-                               grid);
+        strokes.horizontalLine(inPixels.width * 0.1, inPixels.width * 0.975,
+                               inPixels.yOfMark(mark) + inPixels.top(), grid);
         painter.setPen(Qt::black);
-        painter.drawText(wholePixel(geometry.width * 0.01), wholePixel(y + textOffset),
+        painter.drawText(wholePixel(geometry.width * 0.01),
+                         wholePixel(geometry.yOfMark(mark) + textOffset),
                          QString::number(mark) + QLatin1Char(' ') + chart.unitSuffix);
     }
 }
@@ -264,10 +266,13 @@ void drawDepthChart(QImage &canvas, const DepthChartData &data, const PixelRange
     if (canvas.isNull() || rows.isEmpty()) {
         return;
     }
-    const Geometry geometry(canvas.size(), data);
+    const double ratio = canvas.devicePixelRatio();
+    const Geometry inPixels(canvas.size(), data);
+    const Geometry geometry(QSizeF(canvas.size()) / ratio, data);
 
     PixelStrokes strokes(canvas);
-    drawSamples(strokes, placedSamples(data, geometry, strokes), rows, rowsInBand(canvas));
+    drawSamples(strokes, placedSamples(data, inPixels, dotReach * ratio, strokes), rows,
+                rowsInBand(canvas));
     strokes.limitToRows(rows.begin, rows.end);
 
     // Text is smoothed by another rule on an image without transparency on some systems.
@@ -275,21 +280,24 @@ void drawDepthChart(QImage &canvas, const DepthChartData &data, const PixelRange
     QPainter painter(&withText);
     painter.setClipRect(0, rows.begin, canvas.width(), rows.end - rows.begin);
     painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(ratio, ratio);
     painter.translate(0.0, geometry.top());
-    drawScale(painter, strokes, geometry, data);
+    drawScale(painter, strokes, inPixels, geometry, data);
     drawMaxDepth(painter, geometry, data);
 }
 
-std::vector<PixelRange> sampleRows(const QSize &canvas, const DepthChartData &data, int strips)
+std::vector<PixelRange> sampleRows(const QSize &canvas, double ratio, const DepthChartData &data,
+                                   int strips)
 {
     std::vector<PixelRange> rows(static_cast<std::size_t>(strips));
     const Geometry geometry(canvas, data);
     const double stripsPerPixel = strips / geometry.width;
+    const double reach = dotReach * ratio;
     for (int i = 0; i < data.samples.size(); ++i) {
-        const PixelRange touched = rowsOf(data.samples.at(i), geometry);
+        const PixelRange touched = rowsOf(data.samples.at(i), geometry, reach);
         const double x = geometry.width - geometry.x(i);
-        const int first = std::max(wholePixel((x - dotReach) * stripsPerPixel), 0);
-        const int last = std::min(wholePixel((x + dotReach) * stripsPerPixel), strips - 1);
+        const int first = std::max(wholePixel((x - reach) * stripsPerPixel), 0);
+        const int last = std::min(wholePixel((x + reach) * stripsPerPixel), strips - 1);
         for (int strip = first; strip <= last; ++strip) {
             PixelRange &ofStrip = rows[static_cast<std::size_t>(strip)];
             ofStrip = ofStrip.united(touched);

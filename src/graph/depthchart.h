@@ -67,7 +67,8 @@ struct PixelRange
     PixelRange united(const PixelRange &other) const;
 };
 
-/// Draws the chart over all of the canvas, whose size is the chart's: the newest sample at the
+/// Draws the chart over all of the canvas, whose size divided by its device pixel ratio is the
+/// chart's: strokes and text grow with the ratio. The newest sample at the
 /// right edge, older ones to the left, the high-frequency depths as blue and the low-frequency
 /// depths as red dots with a connector between the two, then the scale and the dashed line of the
 /// maximum depth. Depths that are no numbers must not be in the data.
@@ -79,9 +80,11 @@ void drawDepthChart(QImage &canvas, const DepthChartData &data);
 /// The same for these rows only; the others stay as they are.
 void drawDepthChart(QImage &canvas, const DepthChartData &data, const PixelRange &rows);
 
-/// The rows on which samples are drawn, `strips` times for as many upright strips of equal width,
+/// The rows on which samples are drawn on a canvas of this size in pixels and of this device pixel
+/// ratio, `strips` times for as many upright strips of equal width,
 /// from left to right; perhaps a few rows more. Where no sample is drawn, pictures of the same
 /// scale and size are the same.
-std::vector<PixelRange> sampleRows(const QSize &canvas, const DepthChartData &data, int strips);
+std::vector<PixelRange> sampleRows(const QSize &canvas, double ratio, const DepthChartData &data,
+                                   int strips);
 
 #endif // DEPTHCHART_H

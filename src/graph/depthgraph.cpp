@@ -41,6 +41,21 @@ void showPicture(QLabel *label, const QPixmap &picture)
     }
 }
 
+/// The pixels that the label has on its screen.
+QSize pixelsOf(const QLabel &label) { return label.size() * label.devicePixelRatioF(); }
+
+/// Rounded outwards: on a screen of 150 % a pixel of the label shares some with its neighbours.
+QRegion inLabelCoordinates(const QRegion &pixels, double ratio)
+{
+    QRegion region;
+    for (const QRect &part : pixels) {
+        region +=
+            QRectF(part.x() / ratio, part.y() / ratio, part.width() / ratio, part.height() / ratio)
+                .toAlignedRect();
+    }
+    return region;
+}
+
 /// Shows a picture that differs from the one shown only in this region, in label coordinates. A
 /// label paints itself anew as a whole otherwise, and copying a big chart takes longer than drawing
 /// it.
@@ -181,10 +196,11 @@ void depthGraph::drawPic()
     }
     const ChartPicture &shown = pictures[shownPicture];
     ChartPicture &next = pictures[1 - shownPicture];
-    next.draw(ui->label->size(), chart);
+    const double ratio = ui->label->devicePixelRatioF();
+    next.draw(pixelsOf(*ui->label), chart, ratio);
     const QPixmap picture = QPixmap::fromImage(next.image()); // shares the pixels
     if (labelShowsOwnPicture()) {
-        exchangePicture(ui->label, picture, next.difference(shown));
+        exchangePicture(ui->label, picture, inLabelCoordinates(next.difference(shown), ratio));
     } else {
         ui->label->setPixmap(picture);
     }
@@ -204,7 +220,7 @@ void depthGraph::keyPressEvent(QKeyEvent *event)
 bool depthGraph::labelShowsOwnPicture() const
 {
     const QPixmap shown = ui->label->pixmap(Qt::ReturnByValue);
-    return shown.cacheKey() == shownKey && shown.size() == ui->label->size();
+    return shown.cacheKey() == shownKey && shown.size() == pixelsOf(*ui->label);
 }
 
 bool depthGraph::pictureIsUpToDate() const

@@ -73,7 +73,9 @@ Stretch cutByShare(const Stretch &stretch, int size)
     return {stretch.from + length * begin, stretch.from + length * end};
 }
 
-/// The pixels that a dot covers along one axis: at most five, the outer ones in part.
+} // namespace
+
+/// The pixels that a dot covers along one axis, the outer ones in part.
 struct DotExtent
 {
     /// Cut to an image of this size.
@@ -97,6 +99,8 @@ struct DotExtent
     int ofLast;
 };
 
+namespace {
+
 /// Of a pixel covered so far in height and width, in `dotUnit`s. A byte, as in a painter.
 unsigned dotCoverage(int height, int width)
 {
@@ -104,26 +108,37 @@ unsigned dotCoverage(int height, int width)
     return static_cast<quint8>(area >> (2 * dotFraction));
 }
 
-/// One row of a dot, of which `height` is covered.
-void inkDotRow(QRgb *row, const DotExtent &columns, int height, QRgb colour)
+/// What a row of a dot leaves on its pixels, of which `height` is covered.
+class DotRowInks
 {
-    if (columns.first == columns.last) {
-        // A painter counts both parts of the pixel from its far sides.
-        QRgb &pixel = row[columns.first];
-        pixel = Ink(colour, dotCoverage(height, columns.ofFirst + columns.ofLast)).over(pixel);
-        return;
+public:
+    DotRowInks(const DotExtent &itsColumns, int height, QRgb colour)
+        : columns(itsColumns)
+        // A painter counts both parts of a single pixel from its far sides.
+        , left(colour,
+               dotCoverage(height, columns.first == columns.last ? columns.ofFirst + columns.ofLast
+                                                                 : columns.ofFirst))
+        , between(colour, dotCoverage(height, dotUnit))
+        , right(colour, dotCoverage(height, columns.ofLast))
+    {}
+
+    void inkOn(QRgb *row) const
+    {
+        row[columns.first] = left.over(row[columns.first]);
+        for (int x = columns.first + 1; x < columns.last; ++x) {
+            row[x] = between.over(row[x]);
+        }
+        if (columns.first != columns.last && columns.ofLast > 0) {
+            row[columns.last] = right.over(row[columns.last]);
+        }
     }
-    QRgb &left = row[columns.first];
-    left = Ink(colour, dotCoverage(height, columns.ofFirst)).over(left);
-    const Ink between(colour, dotCoverage(height, dotUnit));
-    for (int x = columns.first + 1; x < columns.last; ++x) {
-        row[x] = between.over(row[x]);
-    }
-    if (columns.ofLast > 0) {
-        QRgb &right = row[columns.last];
-        right = Ink(colour, dotCoverage(height, columns.ofLast)).over(right);
-    }
-}
+
+private:
+    const DotExtent &columns;
+    Ink left;
+    Ink between;
+    Ink right;
+};
 
 // Lines
 
@@ -212,6 +227,7 @@ PixelStrokes::PixelStrokes(QImage &canvas)
     , width(canvas.width())
     , height(canvas.height())
     , rowsEnd(height)
+    , ratio(canvas.devicePixelRatio())
 {}
 
 void PixelStrokes::limitToRows(int begin, int end)
@@ -232,15 +248,16 @@ PixelStrokes::DotColumn PixelStrokes::dotColumn(double distance) const
     constexpr double pointLength = 1 / 63.;
     const double begin = width - distance;
     const double end = width - (distance + pointLength);
-    double ratio = dotWidth / std::abs(end - begin);
-    const double cap = 0.5 * ratio * (end - begin);
+    double widthByLength = dotWidth * ratio / std::abs(end - begin);
+    const double cap = 0.5 * widthByLength * (end - begin);
     const Stretch seen = cutByShare({begin - cap, end + cap}, width);
     const double length = seen.from - seen.to;
     if (length == 0.0) {
         return {};
     }
-    ratio *= std::sqrt((begin - end) * (begin - end) / (length * length));
-    return {(seen.from + seen.to) * 0.5, ratio * (std::abs(length) * 0.5), 1 / ratio};
+    widthByLength *= std::sqrt((begin - end) * (begin - end) / (length * length));
+    return {(seen.from + seen.to) * 0.5, widthByLength * (std::abs(length) * 0.5),
+            1 / widthByLength};
 }
 
 void PixelStrokes::dot(const DotColumn &column, double y, QRgb colour)
@@ -250,20 +267,46 @@ void PixelStrokes::dot(const DotColumn &column, double y, QRgb colour)
     const double halfWidth = 0.5 * column.widthByHeight * (bottom - top);
     const DotExtent rows(top, bottom, height);
     const DotExtent columns(column.centre - halfWidth, column.centre + halfWidth, width);
+    rectangle(columns, rows, colour);
+}
+
+void PixelStrokes::rectangle(const DotExtent &columns, const DotExtent &rows, QRgb colour)
+{
     if (rows.isEmpty() || columns.isEmpty()) {
         return;
     }
-    const int begin = std::max(rows.first, rowsBegin);
-    const int end = std::min(rows.last + 1, rowsEnd);
-    for (int at = begin; at < end; ++at) {
-        const int fromTop = at == rows.first ? rows.ofFirst : dotUnit;
-        const int missing = at == rows.last ? dotUnit - rows.ofLast : 0;
-        inkDotRow(row(at), columns, fromTop - missing, colour);
+    const auto inkRow = [&](int at, const DotRowInks &inks) {
+        if (at >= rowsBegin && at < rowsEnd) {
+            inks.inkOn(row(at));
+        }
+    };
+    const bool isOneRow = rows.first == rows.last;
+    inkRow(rows.first,
+           {columns, isOneRow ? rows.ofFirst + rows.ofLast - dotUnit : rows.ofFirst, colour});
+    const DotRowInks whole(columns, dotUnit, colour);
+    const int end = std::min(rows.last, rowsEnd);
+    for (int at = std::max(rows.first + 1, rowsBegin); at < end; ++at) {
+        whole.inkOn(row(at));
     }
+    if (!isOneRow) {
+        inkRow(rows.last, {columns, rows.ofLast, colour});
+    }
+}
+
+/// A line of the thin pen where that is wider than a pixel.
+void PixelStrokes::broadLine(double x1, double y1, double x2, double y2, QRgb colour)
+{
+    const double cap = ratio / 2;
+    rectangle({std::min(x1, x2) - cap, std::max(x1, x2) + cap, width},
+              {std::min(y1, y2) - cap, std::max(y1, y2) + cap, height}, colour);
 }
 
 void PixelStrokes::verticalLine(int x, double y1, double y2, QRgb colour)
 {
+    if (!isPlain()) {
+        broadLine(x, y1, x, y2, colour);
+        return;
+    }
     if (y1 == y2) {
         const int y = qRound(y1);
         if (hasColumn(x) && y >= rowsBegin && y < rowsEnd) {
@@ -300,6 +343,10 @@ void PixelStrokes::verticalRun(int x, int beginRow, int endRow, int share, QRgb 
 
 void PixelStrokes::horizontalLine(double x1, double x2, double y, QRgb colour)
 {
+    if (!isPlain()) {
+        broadLine(x1, y, x2, y, colour);
+        return;
+    }
     if (y < -1.0 || y > height + 1.0) {
         return;
     }

@@ -8,6 +8,7 @@
 #include <QtGlobal>
 
 class QImage;
+struct DotExtent;
 
 /// Draws the strokes of the strip chart straight into the pixels of an image: upright or lying, of
 /// one opaque colour, antialiased. Every pixel becomes what QPainter's antialiasing makes of the
@@ -20,6 +21,8 @@ class QImage;
 class PixelStrokes
 {
 public:
+    /// The pens of 3 and 1 px are as many times as wide as the canvas's device pixel ratio says. At
+    /// ratio 1 they are the painter's own; at others they may differ from it by a few shades.
     explicit PixelStrokes(QImage &canvas);
 
     /// From here on only the rows from `begin` to before `end` are drawn on. A picture drawn band
@@ -41,21 +44,26 @@ public:
     /// there: a point's stroke is a hair longer on its older side.
     DotColumn dotColumn(double distance) const;
 
-    /// A point of a pen 3 px wide with a square cap.
+    /// A point of the pen 3 px wide with a square cap.
     void dot(const DotColumn &column, double y, QRgb colour);
 
-    /// A line of a pen 1 px wide with square caps, on the border between the pixel columns `x` - 1
-    /// and `x`. From a point to itself it is one pixel.
+    /// A line of the pen 1 px wide with square caps, on the border between the pixel columns `x` -
+    /// 1 and `x`. From a point to itself it is one pixel.
     void verticalLine(int x, double y1, double y2, QRgb colour);
 
     /// A line of the same pen from `x1` to the larger `x2`.
     void horizontalLine(double x1, double x2, double y, QRgb colour);
 
 private:
+    void rectangle(const DotExtent &columns, const DotExtent &rows, QRgb colour);
+    void broadLine(double x1, double y1, double x2, double y2, QRgb colour);
     void verticalRun(int x, int beginRow, int endRow, int share, QRgb colour);
     void horizontalRun(int y, int beginColumn, int endColumn, unsigned coverage, QRgb colour);
     QRgb *row(int y) { return pixels + y * stride; }
     bool hasColumn(int x) const { return x >= 0 && x < width; }
+
+    /// Whether the strokes are a painter's own.
+    bool isPlain() const { return ratio == 1.0; }
 
     QRgb *pixels;
     qptrdiff stride; // in pixels
@@ -63,6 +71,7 @@ private:
     int height;
     int rowsBegin = 0;
     int rowsEnd;
+    double ratio; // pixels of the canvas in one of the pens'
 };
 
 #endif // PIXELSTROKES_H

@@ -43,7 +43,9 @@ struct GraphBench
     bool showsTheChart()
     {
         window.drawPic();
-        QImage chart(label("label")->size(), QImage::Format_RGB32);
+        const double ratio = label("label")->devicePixelRatioF();
+        QImage chart(label("label")->size() * ratio, QImage::Format_RGB32);
+        chart.setDevicePixelRatio(ratio);
         drawDepthChart(chart, expected);
         return picture().toImage().convertToFormat(QImage::Format_RGB32) == chart;
     }

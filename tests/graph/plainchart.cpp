@@ -15,7 +15,8 @@ QPen strokePen(const QColor &colour, qreal width)
     return QPen(colour, width, Qt::SolidLine, Qt::SquareCap, Qt::RoundJoin);
 }
 
-void plainSamples(QPainter &painter, const DepthChartData &chart, double yScale, double xStep)
+void plainSamples(QPainter &painter, const DepthChartData &chart, double yScale, double xStep,
+                  double ratio)
 {
     const float noDepth = DepthChartData::noDepth;
     const double unit = double(chart.unitFactor);
@@ -24,17 +25,17 @@ void plainSamples(QPainter &painter, const DepthChartData &chart, double yScale,
         const float lf = chart.samples.at(i).lf;
         const double x = i * xStep;
         if (hf != noDepth) {
-            painter.setPen(strokePen(QColor(0, 0, 255), 3.0));
+            painter.setPen(strokePen(QColor(0, 0, 255), 3.0 * ratio));
             painter.drawPoint(QPointF(x, double(hf) * yScale * unit));
             if (lf != noDepth && hf != 0.0F && lf != 0.0F) {
                 painter.setPen(
-                    strokePen(lf > hf ? QColor(64, 192, 255) : QColor(255, 192, 192), 1.0));
+                    strokePen(lf > hf ? QColor(64, 192, 255) : QColor(255, 192, 192), ratio));
                 painter.drawLine(int(x), int(double(hf) * yScale * unit), int(x),
                                  int(double(lf) * yScale * unit));
             }
         }
         if (lf != noDepth) {
-            painter.setPen(strokePen(QColor(255, 0, 0), 3.0));
+            painter.setPen(strokePen(QColor(255, 0, 0), 3.0 * ratio));
             painter.drawPoint(QPointF(x, double(lf) * yScale * unit));
         }
     }
@@ -46,7 +47,7 @@ double plainStep(int graphRange)
     return s < 2.5 ? 1 : s < 10 ? 5 : s < 30 ? 10 : s < 80 ? 50 : s < 150 ? 100 : s < 250 ? 150 : s;
 }
 
-void plainScale(QPainter &painter, const DepthChartData &chart, double yScale, int w)
+void plainScale(QPainter &painter, const DepthChartData &chart, double yScale, double w)
 {
     const QFont font("MS Shell Dlg 2", 9, 75);
     const double textOffset = QFontMetrics(font).height() * 0.4;
@@ -64,24 +65,25 @@ void plainScale(QPainter &painter, const DepthChartData &chart, double yScale, i
 
 } // namespace
 
-QImage plainChart(const QSize &size, const DepthChartData &chart)
+QImage plainChart(const QSize &size, const DepthChartData &chart, double ratio)
 {
     QImage canvas(size, QImage::Format_ARGB32);
     canvas.fill(Qt::white);
-    const int w = size.width();
-    const int h = size.height();
-    const double yScale = (h * 0.9) / double(float(chart.graphRange) * chart.unitFactor);
-    const double xStep = double(w) / 768;
+    const double h = size.height();
+    const double range = double(float(chart.graphRange) * chart.unitFactor);
 
     QPainter painter(&canvas);
     painter.setRenderHint(QPainter::Antialiasing, true);
-    painter.translate(w, h * 0.05);
+    painter.translate(size.width(), h * 0.05);
     painter.scale(-1, 1);
-    plainSamples(painter, chart, yScale, xStep);
+    plainSamples(painter, chart, (h * 0.9) / range, double(size.width()) / 768, ratio);
 
-    painter.translate(w, 0);
+    painter.translate(size.width(), 0);
     painter.scale(-1, 1);
+    painter.scale(ratio, ratio);
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    const double yScale = (h / ratio * 0.9) / range;
+    const double w = size.width() / ratio;
     plainScale(painter, chart, yScale, w);
 
     QPen dashed;

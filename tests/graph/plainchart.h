@@ -9,7 +9,8 @@
 struct DepthChartData;
 
 /// The chart drawn in the plainest way, step by step on one painter: the program must give the same
-/// pixels by whatever shorter way it takes.
-QImage plainChart(const QSize &size, const DepthChartData &chart);
+/// pixels by whatever shorter way it takes. `size` is in pixels; pens and text are `ratio` times as
+/// large.
+QImage plainChart(const QSize &size, const DepthChartData &chart, double ratio = 1.0);
 
 #endif // PLAINCHART_H
