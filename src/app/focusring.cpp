@@ -5,8 +5,11 @@
 
 #include <QApplication>
 #include <QFocusEvent>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QScrollArea>
+
+#include <algorithm>
 
 namespace {
 
@@ -23,6 +26,15 @@ bool isMovedByKey(Qt::FocusReason reason)
 {
     return reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
            reason == Qt::ShortcutFocusReason;
+}
+
+/// Tab and the arrows move the focus; with Alt alone a key is a caption's.
+bool isNavigation(const QKeyEvent &event)
+{
+    const auto movers = {Qt::Key_Tab,   Qt::Key_Backtab, Qt::Key_Left,
+                         Qt::Key_Right, Qt::Key_Up,      Qt::Key_Down};
+    const bool isCaptions = event.modifiers() == Qt::AltModifier && event.key() != Qt::Key_Alt;
+    return isCaptions || std::find(movers.begin(), movers.end(), event.key()) != movers.end();
 }
 
 QScrollArea *scrollAreaAround(const QWidget *widget)
@@ -73,6 +85,10 @@ FocusRing::FocusRing(QObject *parent)
 bool FocusRing::eventFilter(QObject *watched, QEvent *event)
 {
     switch (event->type()) {
+    case QEvent::ShortcutOverride: // a shortcut's key comes as nothing else
+    case QEvent::KeyPress:
+        keyboardLeads = keyboardLeads || isNavigation(*static_cast<QKeyEvent *>(event));
+        break;
     case QEvent::FocusIn:
         // A dialog also sends one to the button that has the focus only later.
         if (watched == QApplication::focusWidget()) {
@@ -101,19 +117,18 @@ bool FocusRing::eventFilter(QObject *watched, QEvent *event)
     return QObject::eventFilter(watched, event);
 }
 
-/// A focus that comes back with its window, from a closed popup or box or because another control
-/// was switched off is shown if the one before it was.
+/// What the operator has done last decides, not the event's reason: a control that is switched off
+/// or hidden with its page passes the focus on as the Tab key does, also under the mouse. A focus
+/// that comes back with its window or from a closed popup or box is shown if the keyboard leads.
 void FocusRing::enter(QWidget *widget, const QFocusEvent &event)
 {
-    const bool isMoved = isMovedByKey(event.reason());
-    keyboardLeads = keyboardLeads || isMoved;
     leave();
     if (!keyboardLeads || !isToBeRinged(widget)) {
         return;
     }
     control = widget;
     connect(control, &QObject::destroyed, this, &FocusRing::leave, Qt::UniqueConnection);
-    if (isMoved) {
+    if (isMovedByKey(event.reason())) {
         bringIntoView(*widget);
     }
     follow();

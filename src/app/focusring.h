@@ -12,8 +12,8 @@ class QFocusEvent;
 
 /// Shows an operator who works with the keyboard where it is: a ring around the control that has
 /// the focus, in every window of the program. The images and style sheets of the controls show
-/// none. The ring comes with Tab, Shift+Tab, an arrow key or a shortcut that moves the focus, stays
-/// until the mouse is pressed, and is not there while the focus is in a popup list.
+/// none. The ring comes with the first focus after Tab, Shift+Tab, an arrow key or a key with Alt,
+/// stays until the mouse is pressed, and is not there while the focus is in a popup list.
 ///
 /// Qt's QFocusFrame would draw one colour. The forms have white, grey, light blue and dark blue
 /// ground, and no colour stands out from all of them: this ring is a dark line between two white
@@ -33,9 +33,9 @@ private:
     void follow();
     void leave();
 
-    bool keyboardLeads = false;
-    QPointer<QWidget> control; ///< that which the ring is around, if any
-    QPointer<QWidget> frame;   ///< dies with the window in which it stands
+    bool keyboardLeads = false; ///< a key of navigation came after the last press of the mouse
+    QPointer<QWidget> control;  ///< that which the ring is around, if any
+    QPointer<QWidget> frame;    ///< dies with the window in which it stands
 };
 
 /// What the ring is drawn with: a widget that the mouse passes through, which takes no focus and

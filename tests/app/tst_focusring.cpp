@@ -48,6 +48,10 @@ private slots:
     void clickTakesTheRingAway_data();
     void clickTakesTheRingAway();
     void ringStaysWhileTheProgramMovesTheFocus();
+    void noRingWhereThePageUnderTheMouseGoes_data();
+    void noRingWhereThePageUnderTheMouseGoes();
+    void typingAfterAClickBringsNoRing();
+    void arrowAfterAClickBringsTheRing();
     void ringFollowsItsControl();
     void ringScrollsWithItsControlAndIsClipped();
     void arrowKeysBringTheChosenOptionIntoView();
@@ -146,6 +150,52 @@ void TestFocusRing::ringStaysWhileTheProgramMovesTheFocus()
     bench.press(Qt::Key_Tab);
     bench.below->setFocus();
     QVERIFY(RingBench::isAround(bench.below));
+}
+
+void TestFocusRing::noRingWhereThePageUnderTheMouseGoes_data()
+{
+    QTest::addColumn<bool>("isHidden");
+    QTest::newRow("hidden") << true;
+    QTest::newRow("switched off") << false;
+}
+
+/// Qt passes the focus on with the reason that the Tab key has.
+void TestFocusRing::noRingWhereThePageUnderTheMouseGoes()
+{
+    QFETCH(bool, isHidden);
+    RingBench bench;
+    bench.press(Qt::Key_Tab);
+    QTest::mouseClick(bench.window.windowHandle(), Qt::LeftButton, {},
+                      bench.second->mapTo(&bench.window, bench.second->rect().center()));
+    QVERIFY(bench.second->hasFocus());
+    if (isHidden) {
+        bench.tabs->setCurrentIndex(1);
+    } else {
+        bench.second->setEnabled(false);
+    }
+    QVERIFY(!bench.second->hasFocus());
+    QVERIFY2(RingBench::ring() == nullptr, "the mouse leads, and yet there is a ring");
+}
+
+void TestFocusRing::typingAfterAClickBringsNoRing()
+{
+    RingBench bench;
+    QTest::mouseClick(bench.second, Qt::LeftButton);
+    for (const Qt::Key key : {Qt::Key_5, Qt::Key_Return, Qt::Key_Shift, Qt::Key_Alt}) {
+        bench.press(key);
+    }
+    bench.below->setFocus(Qt::TabFocusReason);
+    QVERIFY(RingBench::ring() == nullptr);
+}
+
+void TestFocusRing::arrowAfterAClickBringsTheRing()
+{
+    RingBench bench;
+    QTest::mouseClick(bench.first, Qt::LeftButton);
+    QVERIFY(RingBench::ring() == nullptr);
+    bench.press(Qt::Key_Down);
+    QVERIFY(!bench.first->hasFocus());
+    QVERIFY(RingBench::isAround(QApplication::focusWidget()));
 }
 
 void TestFocusRing::ringFollowsItsControl()
