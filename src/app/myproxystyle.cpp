@@ -3,6 +3,11 @@
 
 #include "myproxystyle.h"
 
+#include "resources.h"
+
+#include <QFrame>
+#include <QIcon>
+
 namespace {
 // The style sheet draws a handle 50 px wide that stands out of the groove by 7 px on either side:
 // the metrics make the slider's own area, and with it the area that the mouse can catch, as large.
@@ -12,7 +17,9 @@ constexpr int sliderHandleLength = 50;
 
 MyProxyStyle::MyProxyStyle(const QString &baseStyle)
     : QProxyStyle(baseStyle)
-{}
+{
+    useTalVeroResources();
+}
 
 MyProxyStyle::~MyProxyStyle() = default;
 
@@ -26,5 +33,39 @@ int MyProxyStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
         return sliderHandleLength;
     default:
         return QProxyStyle::pixelMetric(metric, option, widget);
+    }
+}
+
+int MyProxyStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                            QStyleHintReturn *returnData) const
+{
+    switch (hint) {
+    case QStyle::SH_DialogButtonBox_ButtonsHaveIcons:
+        return 0;
+    case QStyle::SH_ComboBox_PopupFrameStyle:
+        return QFrame::NoFrame;
+    default:
+        return QProxyStyle::styleHint(hint, option, widget, returnData);
+    }
+}
+
+QIcon MyProxyStyle::standardIcon(StandardPixmap icon, const QStyleOption *option,
+                                 const QWidget *widget) const
+{
+    switch (icon) {
+    case QStyle::SP_MessageBoxInformation:
+        return QIcon(QStringLiteral(":/boxes/message_information.png"));
+    case QStyle::SP_MessageBoxQuestion:
+        return QIcon(QStringLiteral(":/boxes/message_question.png"));
+    default:
+        return QProxyStyle::standardIcon(icon, option, widget);
+    }
+}
+
+void MyProxyStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
+                                 QPainter *painter, const QWidget *widget) const
+{
+    if (element != QStyle::PE_FrameFocusRect) {
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
     }
 }

@@ -9,4 +9,5 @@ void useTalVeroResources()
 {
     Q_INIT_RESOURCE(resources);
     Q_INIT_RESOURCE(resources_2x);
+    Q_INIT_RESOURCE(resources_boxes);
 }

@@ -4,11 +4,15 @@
 #include "myproxystyle.h"
 
 #include <QApplication>
+#include <QCheckBox>
+#include <QMessageBox>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QSlider>
 #include <QStyleFactory>
 #include <QStyleOptionButton>
 #include <QStyleOptionSlider>
+#include <QTabBar>
 #include <QTest>
 
 #include <memory>
@@ -26,6 +30,12 @@ private slots:
     void drawsWithFusionUnlessToldOtherwise();
     void unknownStyleKeyFallsBackToAWorkingStyle();
     void applicationTakesTheStyleOver();
+    void boxesSpeakInTheProgramsIcons_data();
+    void boxesSpeakInTheProgramsIcons();
+    void everyOtherIconIsFusions();
+    void buttonsOfBoxesHaveNoIcons();
+    void focusDrawsNoFrameOfItsOwn_data();
+    void focusDrawsNoFrameOfItsOwn();
 };
 
 void tst_MyProxyStyle::sliderIsTwentyThickAndItsHandleFiftyLong_data()
@@ -117,6 +127,81 @@ void tst_MyProxyStyle::applicationTakesTheStyleOver()
     QCOMPARE(style->parent(), qApp);
     const QSlider slider(Qt::Horizontal);
     QCOMPARE(slider.style()->pixelMetric(QStyle::PM_SliderThickness, nullptr, &slider), 20);
+}
+
+void tst_MyProxyStyle::boxesSpeakInTheProgramsIcons_data()
+{
+    QTest::addColumn<QMessageBox::Icon>("icon");
+    QTest::addColumn<QString>("path");
+    QTest::newRow("message") << QMessageBox::Information << ":/boxes/message_information.png";
+    QTest::newRow("question") << QMessageBox::Question << ":/boxes/message_question.png";
+}
+
+void tst_MyProxyStyle::boxesSpeakInTheProgramsIcons()
+{
+    QFETCH(QMessageBox::Icon, icon);
+    QFETCH(QString, path);
+    QApplication::setStyle(new MyProxyStyle);
+    const QMessageBox box(icon, "Title", "Text", QMessageBox::Ok);
+    const QPixmap expected = QIcon(path).pixmap(box.iconPixmap().size());
+    QVERIFY(!expected.isNull());
+    QCOMPARE(box.iconPixmap().toImage(), expected.toImage());
+}
+
+void tst_MyProxyStyle::everyOtherIconIsFusions()
+{
+    const MyProxyStyle style;
+    const std::unique_ptr<QStyle> fusion(QStyleFactory::create(QStringLiteral("fusion")));
+    for (const QStyle::StandardPixmap icon :
+         {QStyle::SP_MessageBoxWarning, QStyle::SP_FileIcon, QStyle::SP_DirHomeIcon}) {
+        QCOMPARE(style.standardIcon(icon).pixmap(24).toImage(),
+                 fusion->standardIcon(icon).pixmap(24).toImage());
+    }
+}
+
+void tst_MyProxyStyle::buttonsOfBoxesHaveNoIcons()
+{
+    QApplication::setStyle(new MyProxyStyle);
+    const QMessageBox box(QMessageBox::Question, "Title", "Text",
+                          QMessageBox::Yes | QMessageBox::Cancel);
+    for (const QAbstractButton *button : box.buttons()) {
+        QVERIFY(button->icon().isNull());
+    }
+}
+
+void tst_MyProxyStyle::focusDrawsNoFrameOfItsOwn_data()
+{
+    QTest::addColumn<QWidget *>("control");
+    QTest::newRow("option") << static_cast<QWidget *>(new QRadioButton("Option"));
+    QTest::newRow("check box") << static_cast<QWidget *>(new QCheckBox("Check"));
+    QTest::newRow("slider") << static_cast<QWidget *>(new QSlider(Qt::Horizontal));
+    auto *const tabs = new QTabBar;
+    tabs->addTab("Tab");
+    QTest::newRow("tab") << static_cast<QWidget *>(tabs);
+}
+
+/// The ring of the program shows where the keyboard is; a second mark would only blur it.
+void tst_MyProxyStyle::focusDrawsNoFrameOfItsOwn()
+{
+    QFETCH(QWidget *, control);
+    const std::unique_ptr<QWidget> owned(control);
+    QApplication::setStyle(new MyProxyStyle);
+    QWidget window;
+    control->setParent(&window);
+    control->move(10, 10);
+    control->adjustSize();
+    QPushButton other("other", &window);
+    other.move(10, 80);
+    window.resize(200, 120);
+    window.show();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    other.setFocus(Qt::TabFocusReason);
+    const QImage without = control->grab().toImage();
+    control->setFocus(Qt::TabFocusReason);
+    QVERIFY(control->hasFocus());
+    QCOMPARE(control->grab().toImage(), without);
+    control->setParent(nullptr);
 }
 
 QTEST_MAIN(tst_MyProxyStyle)
