@@ -5,6 +5,7 @@
 #include "mainwindow.h"
 #include "operatortour.h"
 #include "ptysounder.h"
+#include "screenfit.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -42,6 +43,7 @@ int openWindow(const PtySounder &sounder)
     MainWindow window([&sounder] { return systemSerialPorts() << sounder.portPath(); });
     QTextStream(stdout) << "A simulated sounder waits at " << sounder.portPath()
                         << ": choose that port and \"Auto\", then press Connect.\n";
+    fitToScreen(window);
     window.show();
     return QApplication::exec();
 }

@@ -4,6 +4,7 @@
 #include "appearance.h"
 #include "firstpaint.h"
 #include "mainwindow.h"
+#include "screenfit.h"
 
 #include <QApplication>
 
@@ -16,6 +17,7 @@ int main(int argc, char **argv)
     giveProgramStyle();
     MainWindow window;
     const FirstPaint firstPaint(window);
+    fitToScreen(window);
     window.show();
     return QApplication::exec();
 }
