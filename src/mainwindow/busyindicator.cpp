@@ -3,20 +3,25 @@
 
 #include "busyindicator.h"
 
+#include "linksession.h"
+
 #include <QLabel>
 #include <QMovie>
 
-BusyIndicator::BusyIndicator(QLabel &itsLabel)
-    : label(itsLabel)
+BusyIndicator::BusyIndicator(QLabel &itsLabel, const LinkSession &session, QObject *parent)
+    : QObject(parent)
+    , label(itsLabel)
 {
     QSizePolicy policy = label.sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     label.setSizePolicy(policy);
     label.hide();
+    connect(&session, &LinkSession::stateChanged, this, &BusyIndicator::follow);
 }
 
-void BusyIndicator::turn(bool isBusy)
+void BusyIndicator::follow(SessionState state)
 {
+    const bool isBusy = state == SessionState::Connecting || state == SessionState::Searching;
     label.setVisible(isBusy);
     if (isBusy) {
         loadMovie();

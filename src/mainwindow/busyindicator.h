@@ -4,22 +4,27 @@
 #ifndef BUSYINDICATOR_H
 #define BUSYINDICATOR_H
 
+#include "sessionstate.h"
+
+#include <QObject>
+
 class QLabel;
+class LinkSession;
 
 /// Turns beside the connect button while the sounder has not answered yet: a search through the
 /// rates takes up to 12 s, and the operator must see that it goes on. While it is not seen nothing
 /// of it runs.
-class BusyIndicator
+class BusyIndicator : public QObject
 {
-public:
-    /// Turns in `label`, which outlives it and keeps its place while hidden: no message and no
-    /// state moves another control.
-    explicit BusyIndicator(QLabel &label);
+    Q_OBJECT
 
-    /// Shows it turning, or hides it and stops it.
-    void turn(bool isBusy);
+public:
+    /// Turns in `label` while `session` connects or searches. Both outlive it; the label keeps its
+    /// place while hidden: no message and no state moves another control.
+    BusyIndicator(QLabel &label, const LinkSession &session, QObject *parent = nullptr);
 
 private:
+    void follow(SessionState state);
     void loadMovie();
 
     QLabel &label;

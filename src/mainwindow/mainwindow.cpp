@@ -3,6 +3,7 @@
 
 #include "mainwindow.h"
 
+#include "busyindicator.h"
 #include "debuglog.h"
 #include "firmwareupdater.h"
 #include "keyboardaccess.h"
@@ -60,6 +61,21 @@ void styleLists(const Ui::MainWindow &form)
     }
 }
 
+void fillLists(const Ui::MainWindow &form, const Settings &settings)
+{
+    const std::pair<QComboBox *, QStringList> lists[] = {
+        {form.portComboBox, settings.portList()},
+        {form.baudComboBox, RateSearch::choices(settings.baudList())},
+        {form.newBaudComboBox, settings.baudList()},
+        {form.formatComboBox, settings.formatList()},
+    };
+    for (const auto &[list, entries] : lists) {
+        list->clear();
+        list->addItems(entries);
+    }
+    form.formatComboBox->setCurrentText(startFormat);
+}
+
 void hideWhatIsNotOffered(const Ui::MainWindow &form)
 {
     form.autoSave->hide();
@@ -77,7 +93,6 @@ MainWindow::MainWindow(PortLister portLister, QWidget *parent)
     , session(
           settings, [this] { return linkChoices(*ui); }, this)
     , ports(*ui->portComboBox, std::move(portLister), this)
-    , busy(*ui->busyIndicator)
     , editor(settings, session.queue())
     , common(*this)
     , high(*this, "high", "HF")
@@ -90,6 +105,7 @@ MainWindow::MainWindow(PortLister portLister, QWidget *parent)
     ui->h->tabBar()->setCursor(Qt::PointingHandCursor);
     styleLists(*ui);
     new WheelGuard(this);
+    new BusyIndicator(*ui->busyIndicator, session, this);
     prepareKeyboardAccess(this);
     ui->label_33->setText(QStringLiteral("TAL-VERO Connect Version: ") + TalVero::version);
     settings.setDeviceType(QStringLiteral("TalVeroNew"));
@@ -152,24 +168,10 @@ void MainWindow::initialize()
 {
     // Deliberately the second such connection: the second run finds no line left.
     connect(&session.port(), SIGNAL(gotData()), this, SLOT(gotSerialData()));
-    fillLists();
+    const SettingEditor::Pause paused(editor);
+    fillLists(*ui, settings);
     updateControls();
-    const SettingEditor::Pause paused(editor);
     setImperialDisplay(false);
-}
-
-void MainWindow::fillLists()
-{
-    const SettingEditor::Pause paused(editor);
-    ui->portComboBox->clear();
-    ui->portComboBox->addItems(settings.portList());
-    ui->baudComboBox->clear();
-    ui->baudComboBox->addItems(RateSearch::choices(settings.baudList()));
-    ui->newBaudComboBox->clear();
-    ui->newBaudComboBox->addItems(settings.baudList());
-    ui->formatComboBox->clear();
-    ui->formatComboBox->addItems(settings.formatList());
-    ui->formatComboBox->setCurrentText(startFormat);
 }
 
 void MainWindow::changeEvent(QEvent *event)

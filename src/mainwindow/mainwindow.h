@@ -4,7 +4,6 @@
 #ifndef MAINWINDOW_H
 #define MAINWINDOW_H
 
-#include "busyindicator.h"
 #include "channelpane.h"
 #include "commonfields.h"
 #include "depthgraph.h"
@@ -188,7 +187,6 @@ private:
     void makeConnections();
     void connectSession();
     void initialize();
-    void fillLists();
 
     // ---- mainwindow_link.cpp: connecting, and what the unit is
     void pressConnect();
@@ -234,7 +232,6 @@ private:
     Settings settings;
     LinkSession session;
     PortChooser ports;
-    BusyIndicator busy;
     SettingEditor editor;
     CommonFields common;
     ChannelPane high;

@@ -97,7 +97,6 @@ void MainWindow::followLink(SessionState state)
         showDepthsAlive(false);
     }
     setConnectButton(state != SessionState::Offline);
-    busy.turn(state == SessionState::Connecting || state == SessionState::Searching);
 }
 
 void MainWindow::setConnectButton(bool connected)
