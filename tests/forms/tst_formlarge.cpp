@@ -33,6 +33,9 @@ private slots:
     void groupsOfThePageKeepTogether();
     void menuButtonStaysWhereItIsWhenTheDetailsAreHidden_data();
     void menuButtonStaysWhereItIsWhenTheDetailsAreHidden();
+
+private:
+    FormShelf looked; ///< for what only looks at it
 };
 
 void tst_FormLarge::blockKeepsTogetherInTheMiddle_data()
@@ -47,8 +50,7 @@ void tst_FormLarge::blockKeepsTogetherInTheMiddle_data()
 void tst_FormLarge::blockKeepsTogetherInTheMiddle()
 {
     QFETCH(QString, name);
-    FormBench form;
-    QVERIFY(form.show(maximised));
+    const FormBench &form = looked.shown(maximised);
     const auto *widget = form.window.findChild<QWidget *>(name);
     QVERIFY2(widget != nullptr, "nothing of this name");
     const QRect block = placeOf(widget);
@@ -60,8 +62,7 @@ void tst_FormLarge::blockKeepsTogetherInTheMiddle()
 
 void tst_FormLarge::barsReachFromEdgeToEdge()
 {
-    FormBench form;
-    QVERIFY(form.show(maximised));
+    const FormBench &form = looked.shown(maximised);
     for (const QWidget *bar : {form.ui.widget, form.ui.widget_36}) {
         QCOMPARE(placeOf(bar).left(), 0);
         QCOMPARE(bar->width(), maximised.width());
@@ -86,8 +87,7 @@ void tst_FormLarge::groupsOfThePageKeepTogether()
 {
     QFETCH(QString, upper);
     QFETCH(QString, lower);
-    FormBench form;
-    QVERIFY(form.show(maximised));
+    const FormBench &form = looked.shown(maximised);
     const int end = placeOf(form.window.findChild<QWidget *>(upper)).bottom();
     const int gap = placeOf(form.window.findChild<QWidget *>(lower)).top() - end;
     QVERIFY2(gap > 0 && gap <= 40, qPrintable(QString("%1 px apart").arg(gap)));

@@ -90,6 +90,9 @@ private slots:
     void scrollBarStandsOutFromItsGround();
     void lockedTextCanBeReadInTheSun_data();
     void lockedTextCanBeReadInTheSun();
+
+private:
+    FormShelf looked; ///< for what only looks at it
 };
 
 void tst_FormLook::radioShowsTheImageOfItsState_data()
@@ -188,9 +191,7 @@ void tst_FormLook::everyStepButtonShowsItsSign()
 {
     QFETCH(QString, image);
     const QByteArray name(QTest::currentDataTag());
-    FormBench form;
-    QVERIFY(form.show({1136, 800}));
-    form.ui.h->setCurrentIndex(name.startsWith("low") ? 1 : 0);
+    const FormBench &form = looked.shown({1136, 800}, name.startsWith("low") ? 1 : 0);
     auto *step = form.find<QPushButton>(name);
     const bool onPage = name.startsWith("low") || name.startsWith("high");
     QCOMPARE(seen(step, step->rect()), imageOn(onPage ? pageGround : windowGround, image));
@@ -232,9 +233,7 @@ void tst_FormLook::sliderIsTwentyThickAndItsHandleFiftyLong_data()
 void tst_FormLook::sliderIsTwentyThickAndItsHandleFiftyLong()
 {
     const QByteArray name(QTest::currentDataTag());
-    FormBench form;
-    QVERIFY(form.show({1136, 800}));
-    form.ui.h->setCurrentIndex(name.startsWith("low") ? 1 : 0);
+    const FormBench &form = looked.shown({1136, 800}, name.startsWith("low") ? 1 : 0);
     const auto *slider = form.find<QSlider>(name);
     QCOMPARE(slider->style()->pixelMetric(QStyle::PM_SliderThickness, nullptr, slider), 20);
     QCOMPARE(handleOf(slider).width(), 50 + 2);
@@ -255,7 +254,7 @@ void tst_FormLook::wholeFormIsBold_data()
 
 void tst_FormLook::wholeFormIsBold()
 {
-    FormBench form;
+    const FormBench &form = looked.shown({1136, 800});
     auto *widget = form.find(QTest::currentDataTag());
     widget->ensurePolished();
     QVERIFY2(widget->font().weight() >= QFont::DemiBold,
@@ -274,7 +273,7 @@ void tst_FormLook::liveDepthsAndOutputListsAreNinePointSemibold_data()
 void tst_FormLook::liveDepthsAndOutputListsAreNinePointSemibold()
 {
     QFETCH(QString, name);
-    FormBench form;
+    const FormBench &form = looked.shown({1136, 800});
     auto *widget = form.window.findChild<QWidget *>(name);
     widget->ensurePolished();
     QCOMPARE(widget->font().family(), QStringLiteral("MS Shell Dlg 2"));
@@ -284,8 +283,7 @@ void tst_FormLook::liveDepthsAndOutputListsAreNinePointSemibold()
 
 void tst_FormLook::headerRunsFromDarkToLightBlue()
 {
-    FormBench form;
-    QVERIFY(form.show({1136, 800}));
+    const FormBench &form = looked.shown({1136, 800});
     const QImage header = seen(form.ui.widget, form.ui.widget->rect());
     const int middle = header.width() / 2;
     QVERIFY(header.pixelColor(middle, 0).red() < 20);
@@ -310,8 +308,7 @@ void tst_FormLook::disabledValueIsGreyAndEnabledInputIsWhite()
 
 void tst_FormLook::controlsOnAPageStandOnThePageColour()
 {
-    FormBench form;
-    QVERIFY(form.show({1136, 800}));
+    const FormBench &form = looked.shown({1136, 800});
     for (QWidget *widget : {static_cast<QWidget *>(form.ui.highFreqTab),
                             static_cast<QWidget *>(form.ui.highPulseLabel),
                             static_cast<QWidget *>(form.ui.highDetectSlider)}) {

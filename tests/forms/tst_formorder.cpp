@@ -19,6 +19,10 @@ private slots:
     void columnsAreAligned();
     void stepperStandsOnOneLine_data();
     void stepperStandsOnOneLine();
+
+private:
+    FormShelf plain;
+    FormShelf filled{fillWithLongTexts};
 };
 
 void tst_FormOrder::initTestCase()
@@ -29,8 +33,7 @@ void tst_FormOrder::initTestCase()
 
 void tst_FormOrder::blocksFollowEachOtherDownwards()
 {
-    FormBench form;
-    QVERIFY(form.show(formSize));
+    const FormBench &form = plain.shown(formSize);
     const QList<QWidget *> blocks{form.ui.widget,     form.ui.widget_2,  form.ui.widget_3,
                                   form.ui.tabsHolder, form.ui.widget_34, form.ui.widget_36,
                                   form.ui.statusbar};
@@ -72,9 +75,7 @@ void tst_FormOrder::controlsFollowEachOtherToTheRight_data()
 void tst_FormOrder::controlsFollowEachOtherToTheRight()
 {
     QFETCH(QStringList, row);
-    FormBench form;
-    QVERIFY(form.show(formSize));
-    fillWithLongTexts(form.ui);
+    const FormBench &form = filled.shown(formSize);
     int end = 0;
     for (const QString &name : qAsConst(row)) {
         const auto *widget = form.window.findChild<QWidget *>(name);
@@ -106,8 +107,7 @@ void tst_FormOrder::columnsAreAligned()
 {
     QFETCH(QSize, size);
     QFETCH(QStringList, column);
-    FormBench form;
-    QVERIFY(form.show(size));
+    const FormBench &form = plain.shown(size);
     const int left = placeInWindow(form.window.findChild<QWidget *>(column.first())).x();
     for (const QString &name : qAsConst(column)) {
         const int x = placeInWindow(form.window.findChild<QWidget *>(name)).x();
@@ -140,9 +140,8 @@ void tst_FormOrder::stepperStandsOnOneLine_data()
 void tst_FormOrder::stepperStandsOnOneLine()
 {
     QFETCH(QStringList, stepper);
-    FormBench form;
-    form.ui.h->setCurrentIndex(stepper.first().startsWith(QLatin1String("low")) ? 1 : 0);
-    QVERIFY(form.show(startSize));
+    const int page = stepper.first().startsWith(QLatin1String("low")) ? 1 : 0;
+    const FormBench &form = plain.shown(startSize, page);
     const auto middle = [&form](const QString &name) {
         const auto *widget = form.window.findChild<QWidget *>(name);
         return placeInWindow(widget).y() + widget->height() / 2;

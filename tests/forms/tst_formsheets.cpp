@@ -180,11 +180,16 @@ class tst_FormSheets : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase() { untouched = std::make_unique<FormBench>(); }
+
     void ruleHoldsItsDeclarations_data();
     void ruleHoldsItsDeclarations();
     void plainSheetIsSet_data();
     void plainSheetIsSet();
     void noOtherControlBringsASheet();
+
+private:
+    std::unique_ptr<const FormBench> untouched; ///< for what only looks at it
 };
 
 void tst_FormSheets::ruleHoldsItsDeclarations_data()
@@ -207,7 +212,7 @@ void tst_FormSheets::ruleHoldsItsDeclarations()
     QFETCH(QString, widget);
     QFETCH(QString, selector);
     QFETCH(QStringList, declarations);
-    FormBench form;
+    const FormBench &form = *untouched;
     const auto *styled = form.window.findChild<QWidget *>(widget);
     QVERIFY(styled != nullptr);
     const QHash<QString, QString> rules = rulesOf(styled->styleSheet());
@@ -236,10 +241,10 @@ void tst_FormSheets::plainSheetIsSet_data()
 void tst_FormSheets::plainSheetIsSet()
 {
     QFETCH(QString, sheet);
-    FormBench form;
+    const FormBench &form = *untouched;
     const QString name = QLatin1String(QTest::currentDataTag());
     const auto *styled = name == QLatin1String("MainWindow")
-                             ? static_cast<QWidget *>(&form.window)
+                             ? static_cast<const QWidget *>(&form.window)
                              : form.window.findChild<QWidget *>(name);
     QVERIFY(styled != nullptr);
     QCOMPARE(styled->styleSheet().simplified(), sheet);
@@ -248,7 +253,7 @@ void tst_FormSheets::plainSheetIsSet()
 // A sheet on a widget of its own hides from the reader of the form-wide one.
 void tst_FormSheets::noOtherControlBringsASheet()
 {
-    FormBench form;
+    const FormBench &form = *untouched;
     const QStringList named{"centralwidget",  "widget",        "h",        "widget_36",
                             "highDepthLabel", "lowDepthLabel", "statusbar"};
     QStringList known = named;

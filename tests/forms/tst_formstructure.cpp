@@ -52,7 +52,11 @@ class tst_FormStructure : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { wearProgramStyle(); }
+    void initTestCase()
+    {
+        wearProgramStyle();
+        untouched = std::make_unique<FormBench>();
+    }
 
     void atStartMetricEnableShallowLog10AndLog20AreChecked();
     void atStartHelpOnTheCommonSettingsIsDisabled();
@@ -69,11 +73,14 @@ private slots:
     void everyControlSaysWhatItIs();
     void noTwoControlsSayTheSame();
     void tabKeyFollowsTheReadingOrder();
+
+private:
+    std::unique_ptr<const FormBench> untouched; ///< for what only looks at it
 };
 
 void tst_FormStructure::atStartMetricEnableShallowLog10AndLog20AreChecked()
 {
-    FormBench form;
+    const FormBench &form = *untouched;
     QStringList checked;
     const auto radios = form.window.findChildren<QRadioButton *>();
     for (const QRadioButton *radio : radios) {
@@ -88,7 +95,7 @@ void tst_FormStructure::atStartMetricEnableShallowLog10AndLog20AreChecked()
 
 void tst_FormStructure::atStartHelpOnTheCommonSettingsIsDisabled()
 {
-    FormBench form;
+    const FormBench &form = *untouched;
     QVERIFY(!form.ui.commonSettingsInfo->isEnabled());
     QVERIFY(form.ui.selectRateInfo->isEnabled());
 }
@@ -165,7 +172,7 @@ void tst_FormStructure::containerHoldsWhatIsLockedTogether_data()
 void tst_FormStructure::containerHoldsWhatIsLockedTogether()
 {
     QFETCH(QStringList, held);
-    FormBench form;
+    const FormBench &form = *untouched;
     const auto *container = form.find(QTest::currentDataTag());
     QVERIFY(container != nullptr);
     for (const QString &name : qAsConst(held)) {
@@ -175,7 +182,7 @@ void tst_FormStructure::containerHoldsWhatIsLockedTogether()
 
 void tst_FormStructure::rateHolderHoldsNothingButTheDeviceRate()
 {
-    FormBench form;
+    const FormBench &form = *untouched;
     QCOMPARE(childrenOf(form.ui.outputRateHolder),
              (QStringList{"newBaudComboBox", "newBaudLabel"}));
 }
@@ -190,7 +197,7 @@ void tst_FormStructure::helpOnTheHeadingsStaysOutsideWhatIsLocked_data()
 void tst_FormStructure::helpOnTheHeadingsStaysOutsideWhatIsLocked()
 {
     QFETCH(QByteArray, channel);
-    FormBench form;
+    const FormBench &form = *untouched;
     const auto *upper = form.find(channel + "UpperRow");
     const auto *page = form.find(channel + "FreqTab");
     for (const char *help : {"EnableInfo", "ModeInfo", "TVGInfo"}) {
@@ -223,7 +230,7 @@ void tst_FormStructure::everyControlSaysWhatItIs_data()
 void tst_FormStructure::everyControlSaysWhatItIs()
 {
     QFETCH(bool, hasText);
-    FormBench form;
+    const FormBench &form = *untouched;
     auto *control = form.find(QTest::currentDataTag());
     QVERIFY(control != nullptr);
     QVERIFY2(hasText || !control->accessibleName().isEmpty(),
@@ -233,7 +240,7 @@ void tst_FormStructure::everyControlSaysWhatItIs()
 
 void tst_FormStructure::noTwoControlsSayTheSame()
 {
-    FormBench form;
+    const FormBench &form = *untouched;
     QHash<QString, QByteArray> said;
     for (const Control &control : controlTable()) {
         const QString name = spokenName(form.find(control.name));
@@ -247,7 +254,7 @@ void tst_FormStructure::noTwoControlsSayTheSame()
 
 void tst_FormStructure::tabKeyFollowsTheReadingOrder()
 {
-    FormBench form;
+    const FormBench &form = *untouched;
     QStringList expected;
     for (const Control &control : controlTable()) {
         expected << QLatin1String(control.name);

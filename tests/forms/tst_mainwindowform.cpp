@@ -58,7 +58,11 @@ class tst_MainWindowForm : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { wearProgramStyle(); }
+    void initTestCase()
+    {
+        wearProgramStyle();
+        untouched = std::make_unique<FormBench>();
+    }
 
     void windowIsNamedAndSized();
     void formScrollsInsideTheWindow();
@@ -78,11 +82,14 @@ private slots:
     void valuesAreCentred();
     void addressesAreAtTheRight();
     void retranslationRestoresTheTexts();
+
+private:
+    std::unique_ptr<const FormBench> untouched; ///< for what only looks at it
 };
 
 void tst_MainWindowForm::windowIsNamedAndSized()
 {
-    FormBench form;
+    const FormBench &form = *untouched;
     QCOMPARE(form.window.size(), QSize(1020, 947));
     QCOMPARE(form.window.windowTitle(), QStringLiteral("TAL-VERO Connect"));
     QVERIFY2(!form.window.windowIcon().isNull(), "the window has no icon");
@@ -93,7 +100,7 @@ void tst_MainWindowForm::windowIsNamedAndSized()
 
 void tst_MainWindowForm::formScrollsInsideTheWindow()
 {
-    FormBench form;
+    const FormBench &form = *untouched;
     auto *area = form.find<QScrollArea>("scrollArea");
     QCOMPARE(area->parentWidget(), form.window.centralWidget());
     QVERIFY2(area->widgetResizable(), "the form does not follow the size of the window");
@@ -102,7 +109,7 @@ void tst_MainWindowForm::formScrollsInsideTheWindow()
 
 void tst_MainWindowForm::tabsAreNamedAndTheHighFrequencyIsShownFirst()
 {
-    FormBench form;
+    const FormBench &form = *untouched;
     QCOMPARE(form.ui.h->parentWidget()->objectName(), QStringLiteral("tabsHolder"));
     QCOMPARE(form.ui.h->count(), 2);
     QCOMPARE(form.ui.h->currentIndex(), 0);
@@ -125,7 +132,7 @@ void tst_MainWindowForm::controlIsAsTheTableSays()
 {
     QFETCH(int, row);
     const Control &expected = controlTable().at(static_cast<size_t>(row));
-    FormBench form;
+    const FormBench &form = *untouched;
     const auto *control = form.find(expected.name);
     QVERIFY(control != nullptr);
     QCOMPARE(control->metaObject()->className(), expected.kind);
@@ -138,7 +145,7 @@ void tst_MainWindowForm::controlIsAsTheTableSays()
 
 void tst_MainWindowForm::formHasNoControlsBeyondTheTable()
 {
-    FormBench form;
+    const FormBench &form = *untouched;
     const QStringList known = namesOf(controlTable());
     const auto widgets = form.window.centralWidget()->findChildren<QWidget *>();
     for (const QWidget *widget : widgets) {
@@ -161,7 +168,7 @@ void tst_MainWindowForm::sliderHasItsRangeAndSteps()
 {
     QFETCH(int, row);
     const SliderSetting &expected = sliderTable().at(static_cast<size_t>(row));
-    FormBench form;
+    const FormBench &form = *untouched;
     const auto *slider = form.find<QSlider>(expected.name);
     QVERIFY(slider != nullptr);
     QCOMPARE(slider->orientation(), Qt::Horizontal);
@@ -186,7 +193,7 @@ void tst_MainWindowForm::captionReadsAsTheTableSays()
 {
     QFETCH(int, row);
     const Caption &expected = captionTable().at(static_cast<size_t>(row));
-    FormBench form;
+    const FormBench &form = *untouched;
     const auto *label = form.find<QLabel>(expected.label);
     QVERIFY(label != nullptr);
     QCOMPARE(label->text(), QString::fromLatin1(expected.text));
@@ -214,7 +221,7 @@ void tst_MainWindowForm::buttonShowsItsIcon_data()
 void tst_MainWindowForm::buttonShowsItsIcon()
 {
     QFETCH(QString, image);
-    FormBench form;
+    const FormBench &form = *untouched;
     const auto *button = form.find<QPushButton>(QTest::currentDataTag());
     QVERIFY(button != nullptr);
     const QImage drawn = button->icon().pixmap(button->iconSize()).toImage();
@@ -235,7 +242,7 @@ void tst_MainWindowForm::listHoldsOnlyItsPlaceholder_data()
 void tst_MainWindowForm::listHoldsOnlyItsPlaceholder()
 {
     QFETCH(QString, placeholder);
-    FormBench form;
+    const FormBench &form = *untouched;
     const auto *list = form.find<QComboBox>(QTest::currentDataTag());
     QVERIFY(list != nullptr);
     QCOMPARE(list->count(), 1);
@@ -263,7 +270,7 @@ void tst_MainWindowForm::valuesAreCentred_data()
 void tst_MainWindowForm::valuesAreCentred()
 {
     QFETCH(QString, name);
-    FormBench form;
+    const FormBench &form = *untouched;
     const auto *value = form.window.findChild<QWidget *>(name);
     QVERIFY(value != nullptr);
     QVERIFY((value->property("alignment").toInt() & Qt::AlignHCenter) != 0);
@@ -271,7 +278,7 @@ void tst_MainWindowForm::valuesAreCentred()
 
 void tst_MainWindowForm::addressesAreAtTheRight()
 {
-    FormBench form;
+    const FormBench &form = *untouched;
     QVERIFY(form.ui.label_36->alignment().testFlag(Qt::AlignRight));
     QVERIFY(form.ui.label_35->alignment().testFlag(Qt::AlignRight));
 }
