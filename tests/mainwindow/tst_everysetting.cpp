@@ -110,6 +110,7 @@ void EverySettingTest::useUnit()
     if (!benches[imperial]) {
         benches[imperial] = std::make_unique<SliderBench>(imperial);
         benches[imperial]->timer("commandTimer")->setInterval(0);
+        benches[imperial]->stopPainting();
     }
     bench = benches[imperial].get();
     ++rowsRun;

@@ -75,6 +75,7 @@ private:
 void HeldButtonTest::holdRepeatedly(SliderBench &bench, const std::function<void()> &action,
                                     const QByteArrayList &wires)
 {
+    bench.stopPainting();
     bench.timer("commandTimer")->setInterval(pauseMs);
     for (const QByteArray &wire : wires) {
         const int pauses = hold(action);

@@ -151,6 +151,13 @@ bool WindowBench::showsConnected()
     return text("connectToDevice") == "Disconnect" && isEnabled("commonHolder");
 }
 
+void WindowBench::stopPainting()
+{
+    window.setUpdatesEnabled(false);
+    auto *const infoLine = find<QLabel>("infoLabel");
+    infoLine->setFixedSize(infoLine->size());
+}
+
 QByteArrayList WindowBench::settingCommands()
 {
     QByteArrayList commands = device().received();

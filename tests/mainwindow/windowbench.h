@@ -70,6 +70,10 @@ public:
     /// Whether the window shows a connected device.
     bool showsConnected();
 
+    /// From here on the window is not painted, and a new text in its info line does not lay it out
+    /// anew. For a walk of thousands of steps that asks only what each of them sends.
+    void stopPainting();
+
     /// The commands that the sounder took, without the requests of every connection and poll.
     QByteArrayList settingCommands();
 
