@@ -75,7 +75,6 @@ bool SerialPortLayer::openPort()
     trouble.clear();
     if (!openDevice()) {
         trouble = PortTrouble::words(PortTrouble::factsOf(port));
-        DEBUG_LOG << "The serial port does not open:" << portName << port.error() << trouble;
         emit connectionFailed();
         return false;
     }

@@ -91,7 +91,11 @@ bool LinkSession::openLink(const QString &port, const QString &rate)
 {
     serial.portName = port;
     serial.baudRate = rate;
-    return serial.openPort();
+    const bool isOpen = serial.openPort();
+    if (!isOpen) {
+        WINDOW_LOG << "The serial port does not open:" << port << portTrouble();
+    }
+    return isOpen;
 }
 
 /// Closes the port and forgets what was awaited from it: neither this silence nor an old command's
