@@ -10,6 +10,7 @@
 #include "ratesearch.h"
 #include "resources.h"
 #include "sharplogo.h"
+#include "stepbuttons.h"
 #include "ui_mainwindow.h"
 #include "version.h"
 #include "wheelguard.h"
@@ -106,6 +107,7 @@ MainWindow::MainWindow(PortLister portLister, QWidget *parent)
     styleLists(*ui);
     new WheelGuard(this);
     new BusyIndicator(*ui->busyIndicator, session, this);
+    new StepKeys(this);
     prepareKeyboardAccess(this);
     ui->label_33->setText(QStringLiteral("TAL-VERO Connect Version: ") + TalVero::version);
     settings.setDeviceType(QStringLiteral("TalVeroNew"));
