@@ -6,6 +6,7 @@
 #include "debuglog.h"
 #include "firmwareupdater.h"
 #include "ui_mainwindow.h"
+#include "windowplace.h"
 
 #include <QMessageBox>
 #include <QProcess>
@@ -69,6 +70,7 @@ void MainWindow::toggleFooter()
 void MainWindow::showHelp(const QString &topic)
 {
     info.showTopic(topic);
+    placeBesideOwner(info, *this);
     info.show();
     info.raise();
     info.activateWindow();
