@@ -3,6 +3,7 @@
 
 #include "channelpane.h"
 
+#include "controltips.h"
 #include "formwidgets.h"
 #include "replyvalues.h"
 
@@ -85,6 +86,27 @@ void ChannelPane::allow(ControlRules::ChannelGroups groups) const
     for (const auto &[group, area] : areas) {
         setChildrenDisabled(area, !groups.testFlag(group));
     }
+}
+
+void ChannelPane::explain(const ControlRules::ChannelLocks &locks, ControlTips &tips) const
+{
+    const SettingChannel channel = draft.setting->channel;
+    const std::pair<ControlRules::Lock, QWidget *> areas[] = {
+        {locks.enable, enableColumn}, {locks.mode, modeColumn},    {locks.tvg, tvgColumn},
+        {locks.inputs, lowerPart},    {locks.manual, manualGroup}, // within the lower part
+    };
+    for (const auto &[lock, area] : areas) {
+        tips.lock(area, lockReason(lock, channel));
+    }
+}
+
+std::vector<const NumberField *> ChannelPane::fields() const
+{
+    std::vector<const NumberField *> all;
+    for (const FieldRow &row : fieldRows) {
+        all.push_back(&(this->*row.field));
+    }
+    return all;
 }
 
 void ChannelPane::showStartingTexts(const StartingTexts &texts) const

@@ -11,6 +11,9 @@
 #include <QList>
 #include <QString>
 
+#include <vector>
+
+class ControlTips;
 class QLabel;
 class QRadioButton;
 class QWidget;
@@ -33,6 +36,12 @@ public:
 
     /// Lets exactly these groups be used. Of a channel that the unit lacks nothing can be.
     void allow(ControlRules::ChannelGroups groups) const;
+
+    /// Lets what is locked tell why.
+    void explain(const ControlRules::ChannelLocks &locks, ControlTips &tips) const;
+
+    /// All its numbers.
+    std::vector<const NumberField *> fields() const;
 
     /// Names the unit in the captions and shows these starting texts.
     struct StartingTexts

@@ -87,13 +87,13 @@ void hideWhatIsNotOffered(const Ui::MainWindow &form)
 
 } // namespace
 
-MainWindow::MainWindow(PortLister portLister, QWidget *parent)
+MainWindow::MainWindow(PortLister portLister, QWidget *parent, PortDetails details)
     : QMainWindow(parent)
     , ui(formOn(*this))
     , settings(portLister())
     , session(
           settings, [this] { return linkChoices(*ui); }, this)
-    , ports(*ui->portComboBox, std::move(portLister), this)
+    , ports(*ui->portComboBox, std::move(portLister), std::move(details), this)
     , editor(settings, session.queue())
     , common(*this)
     , high(*this, "high", "HF")
@@ -149,6 +149,8 @@ void MainWindow::connectSession()
     connect(&session.info(), &InfoLine::shown, this, &MainWindow::setInfoText);
     connect(&session.info(), &InfoLine::explained, ui->infoLabel, &QWidget::setToolTip);
     connect(&session, &LinkSession::stateChanged, this, &MainWindow::followLink);
+    connect(&ports, &PortChooser::listed, this,
+            [this] { tips.setOwn(ui->portComboBox, ports.advice()); });
     connect(&session, &LinkSession::rateChosen, ui->baudComboBox, &QComboBox::setCurrentText);
     connect(&session, &LinkSession::identified, this, &MainWindow::parseBanner);
     connect(&session, &LinkSession::settingsReplied, this, &MainWindow::parseSetting);
@@ -172,6 +174,8 @@ void MainWindow::initialize()
     connect(&session.port(), SIGNAL(gotData()), this, SLOT(gotSerialData()));
     const SettingEditor::Pause paused(editor);
     fillLists(*ui, settings);
+    ports.describeEntries();
+    tips.setOwn(ui->portComboBox, ports.advice());
     updateControls();
     setImperialDisplay(false);
 }

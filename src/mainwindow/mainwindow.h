@@ -6,6 +6,7 @@
 
 #include "channelpane.h"
 #include "commonfields.h"
+#include "controltips.h"
 #include "depthgraph.h"
 #include "infoform.h"
 #include "linksession.h"
@@ -34,8 +35,10 @@ class MainWindow : public QMainWindow
 
 public:
     /// `ports` names the serial ports to choose from. It is asked once at construction and then
-    /// once a second while no device is connected.
-    explicit MainWindow(PortLister ports = systemSerialPorts, QWidget *parent = nullptr);
+    /// once a second while no device is connected. `details` tells of a port so named what the
+    /// operator may know it by.
+    explicit MainWindow(PortLister ports = systemSerialPorts, QWidget *parent = nullptr,
+                        PortDetails details = systemPortDetails);
     ~MainWindow() override;
 
     MainWindow(const MainWindow &) = delete;
@@ -209,8 +212,13 @@ private:
 
     // ---- mainwindow_controls.cpp: what can be used when
     void updateControls();
-    void allow(const ControlRules::Usable &usable);
+    void allow(const ControlRules::Locks &locks);
     ControlRules::State controlState() const;
+
+    // ---- mainwindow_tips.cpp: what the controls tell under the pointer
+    void explainLocks(const ControlRules::Locks &locks);
+    void tellRanges(bool imperial);
+    void tellRangesOf(const NumberField &field, bool imperial);
 
     // ---- mainwindow_options.cpp: modes, channels, output, unit of display
     void chooseMode(bool checked, ChannelPane &pane, const QString &mode);
@@ -232,6 +240,7 @@ private:
     Settings settings;
     LinkSession session;
     PortChooser ports;
+    ControlTips tips;
     SettingEditor editor;
     CommonFields common;
     ChannelPane high;

@@ -27,11 +27,12 @@ ControlRules::State MainWindow::controlState() const
     return {session.state(), high.state, low.state, common.formatFixesOptions};
 }
 
-void MainWindow::updateControls() { allow(ControlRules::usable(controlState())); }
+void MainWindow::updateControls() { allow(ControlRules::locks(controlState())); }
 
-void MainWindow::allow(const ControlRules::Usable &usable)
+void MainWindow::allow(const ControlRules::Locks &locks)
 {
     using ControlRules::CommonGroup;
+    const ControlRules::Usable usable = ControlRules::usable(locks);
     const QPointer<QWidget> focused = focusWidget();
     const bool isConnected = usable.common.testFlag(CommonGroup::Device);
     QWidget *const connectionControls[] = {ui->portComboBox, ui->baudComboBox, ui->imperialRadio,
@@ -58,6 +59,7 @@ void MainWindow::allow(const ControlRules::Usable &usable)
         low.depth->clear();
     }
     ui->label_30->setEnabled(false);
+    explainLocks(locks);
     if (focused != nullptr && !focused->isEnabled()) {
         placeLostFocus(*this, *ui, isConnected);
     }

@@ -120,7 +120,7 @@ void MainWindow::parseBanner(const Protocol::Banner &banner)
         fit = banner.fit;
         high.state = identifiedChannel(high.state, meaning->hasHigh);
         low.state = identifiedChannel(low.state, meaning->hasLow);
-        allow(ControlRules::usableUponIdentification(controlState()));
+        allow(ControlRules::locksUponIdentification(controlState()));
         emit setFrequency(meaning->frequency);
         ui->h->setCurrentWidget(meaning->hasHigh ? ui->highFreqTab : ui->lowFreqTab);
     }

@@ -129,4 +129,5 @@ void MainWindow::setImperialDisplay(bool imperial)
     const BlankingRange &range = imperial ? imperialRange : metricRange;
     high.blanking.slider->setRange(range.lowestOfHigh, range.highest);
     low.blanking.slider->setRange(range.lowestOfLow, range.highest);
+    tellRanges(imperial);
 }

@@ -3,6 +3,7 @@
 
 #include "portchooser.h"
 
+#include "fieldtips.h"
 #include "linkchoices.h"
 
 #include <QComboBox>
@@ -17,10 +18,11 @@ constexpr auto scanInterval = 1s;
 
 } // namespace
 
-PortChooser::PortChooser(QComboBox &itsList, PortLister ports, QObject *parent)
+PortChooser::PortChooser(QComboBox &itsList, PortLister ports, PortDetails details, QObject *parent)
     : QObject(parent)
     , list(itsList)
     , listPorts(std::move(ports))
+    , detailsOf(std::move(details))
 {
     portScanTimer.setObjectName(QStringLiteral("portScanTimer"));
     portScanTimer.setInterval(scanInterval);
@@ -41,4 +43,21 @@ void PortChooser::updateSerialPorts()
     if (found.contains(chosen)) {
         list.setCurrentText(chosen);
     }
+    describeEntries();
+    emit listed();
+}
+
+void PortChooser::describeEntries()
+{
+    for (int entry = 1; entry < list.count(); ++entry) { // the first is no port
+        list.setItemData(entry, literalToolTip(detailsOf(list.itemText(entry))), Qt::ToolTipRole);
+    }
+}
+
+QString PortChooser::advice() const
+{
+    return list.count() > 1
+               ? QString()
+               : QStringLiteral("No serial port found. Check that the cable is plugged in at both "
+                                "ends and that the driver of its adapter is installed.");
 }

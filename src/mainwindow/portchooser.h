@@ -19,7 +19,14 @@ class PortChooser : public QObject
 
 public:
     /// Fills `list`, which outlives it, with what `ports` names.
-    PortChooser(QComboBox &list, PortLister ports, QObject *parent = nullptr);
+    /// Each entry tells under the pointer what `details` knows of its port.
+    PortChooser(QComboBox &list, PortLister ports, PortDetails details, QObject *parent = nullptr);
+
+    /// Gives the entries that stand in the list now their details.
+    void describeEntries();
+
+    /// What the list as a whole should tell: without a port what to check, otherwise nothing.
+    QString advice() const;
 
     /// Looks for ports. As long as they are the same, an open list and the operator's choice stay
     /// undisturbed; a chosen port that is still there stays chosen.
@@ -29,9 +36,14 @@ public:
     /// and stops it while a device is connected.
     QTimer &timer() { return portScanTimer; }
 
+signals:
+    /// The list holds other ports than before.
+    void listed();
+
 private:
     QComboBox &list;
     PortLister listPorts;
+    PortDetails detailsOf;
     QStringList knownPorts;
     QTimer portScanTimer{this};
 };

@@ -64,6 +64,43 @@ enum class ChannelGroup {
 };
 Q_DECLARE_FLAGS(ChannelGroups, ChannelGroup)
 
+/// Why a group cannot be used. Of several reasons the one that must end first.
+enum class Lock {
+    None,         ///< it can be used
+    NotConnected, ///< there is no unit
+    Connected,    ///< the link has been made with it
+    NotFitted,    ///< the unit lacks the channel
+    Resting,      ///< the other channel pings alone
+    SwitchedOff,  ///< the operator or the unit has switched the channel off
+    FixedFormat,  ///< the output format fixes it
+    Automatic,    ///< Auto or Shallow sets it
+};
+
+/// Of one channel, group by group.
+struct ChannelLocks
+{
+    Lock enable = Lock::None;
+    Lock mode = Lock::None;
+    Lock tvg = Lock::None;
+    Lock inputs = Lock::None;
+    Lock manual = Lock::None;
+};
+
+struct Locks
+{
+    Lock connection = Lock::None;
+    Lock device = Lock::None;
+    Lock outputRate = Lock::None;
+    ChannelLocks high;
+    ChannelLocks low;
+};
+
+/// Why what cannot be used in this state cannot be used: `usable` are the groups without a lock.
+Locks locks(const State &state);
+
+/// The same right after the unit has named itself.
+Locks locksUponIdentification(const State &state);
+
 /// The groups that can be used; no other can.
 struct Usable
 {
@@ -74,6 +111,9 @@ struct Usable
 
 /// What can be used in this state.
 Usable usable(const State &state);
+
+/// What can be used under these locks.
+Usable usable(const Locks &locks);
 
 /// What can be used right after the unit has named itself: of each channel that it carries
 /// everything, since neither modes nor format are known until its settings have come.
