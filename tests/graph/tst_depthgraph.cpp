@@ -11,6 +11,34 @@ namespace {
 
 constexpr float none = DepthChartData::noDepth;
 
+/// How many runs of rows have a dark pixel between these columns.
+int runsOfRows(const QImage &canvas, int from, int to)
+{
+    int runs = 0;
+    bool wasDark = false;
+    for (int y = 0; y < canvas.height(); ++y) {
+        bool isDark = false;
+        for (int x = from; x < to; ++x) {
+            isDark = isDark || qGray(canvas.pixel(x, y)) < 200;
+        }
+        runs += isDark && !wasDark ? 1 : 0;
+        wasDark = isDark;
+    }
+    return runs;
+}
+
+int textsBelowEachOther(const QImage &canvas)
+{
+    return runsOfRows(canvas, 0, canvas.width() / 10 - 2);
+}
+
+/// Each mark of the scale has a line across the chart.
+int marksOf(const QImage &canvas)
+{
+    const int middle = canvas.width() / 2;
+    return runsOfRows(canvas, middle, middle + 1);
+}
+
 } // namespace
 
 class TestDepthGraph : public QObject
@@ -37,6 +65,8 @@ private slots:
     void unknownModeIsRejected();
     void callsAreLogged();
     void valuesThatAreNoNumbersDoNoHarm();
+    void smallestWindowKeepsTheScaleApart_data();
+    void smallestWindowKeepsTheScaleApart();
 };
 
 void TestDepthGraph::slotsAreFoundBySignature_data()
@@ -285,6 +315,36 @@ void TestDepthGraph::valuesThatAreNoNumbersDoNoHarm()
     bench.window.setMaxDepth(5.0F);
     bench.window.drawPic();
     QVERIFY(!bench.picture().isNull());
+}
+
+void TestDepthGraph::smallestWindowKeepsTheScaleApart_data()
+{
+    QTest::addColumn<int>("range");
+    QTest::addColumn<bool>("imperial");
+    for (int range = 5; range <= 100; range += 5) {
+        for (const bool imperial : {false, true}) {
+            QTest::addRow("%d m in %s", range, imperial ? "feet" : "metres") << range << imperial;
+        }
+    }
+}
+
+/// Feet have three times as many marks as metres: an operator must be able to read each.
+void TestDepthGraph::smallestWindowKeepsTheScaleApart()
+{
+    QFETCH(int, range);
+    QFETCH(bool, imperial);
+    GraphBench bench;
+    bench.show();
+    bench.window.resize(bench.window.minimumSize());
+    QTRY_COMPARE(bench.window.size(), bench.window.minimumSize());
+    DepthChartData chart;
+    chart.graphRange = range;
+    chart.maxDepthLine = 10000; // out of sight
+    chart.unitFactor = imperial ? 3.28084F : 1.0F;
+    QImage canvas(bench.label("label")->size(), QImage::Format_RGB32);
+    drawDepthChart(canvas, chart);
+    // The lowest mark's line may lie below the edge while its text is still seen.
+    QVERIFY2(textsBelowEachOther(canvas) >= marksOf(canvas), "two texts run into each other");
 }
 
 QTEST_MAIN(TestDepthGraph)
