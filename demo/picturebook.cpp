@@ -20,6 +20,9 @@ namespace {
 constexpr int highTab = 0;
 constexpr int lowTab = 1;
 
+/// A sea bed with depths on both channels from the first ping on, and mud that tells them apart.
+constexpr quint32 livelySeabed = 1010;
+
 /// Lists have no title.
 constexpr char openList[] = "";
 
@@ -220,6 +223,7 @@ SounderOptions optionsFor(const Scene &scene)
     options.fit = scene.fit;
     options.faults = scene.faults;
     options.format = Odom; // it carries both depths
+    options.seed = livelySeabed;
     options.soundings = scene.soundings;
     return options;
 }
