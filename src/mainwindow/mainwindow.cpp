@@ -18,6 +18,7 @@
 #include <QCloseEvent>
 #include <QFile>
 #include <QListView>
+#include <QStyledItemDelegate>
 #include <QTabBar>
 #include <QWindowStateChangeEvent>
 
@@ -52,6 +53,21 @@ LinkChoices linkChoices(const Ui::MainWindow &form)
             form.newBaudComboBox->currentText(), form.formatComboBox->currentText()};
 }
 
+/// With their padding some entries are wider than the box below which they open.
+void letEntriesBeRead(const QComboBox &list)
+{
+    QAbstractItemView *const view = list.view();
+    const auto widen = [view] {
+        constexpr int bothFrames = 2;
+        constexpr int widest = 480; // whatever a system calls its ports
+        view->setMinimumWidth(qMin(view->sizeHintForColumn(0) + bothFrames, widest));
+    };
+    QObject::connect(view->model(), &QAbstractItemModel::rowsInserted, view, widen,
+                     Qt::QueuedConnection);
+    QObject::connect(view->model(), &QAbstractItemModel::modelReset, view, widen,
+                     Qt::QueuedConnection);
+}
+
 void styleLists(const Ui::MainWindow &form)
 {
     for (QComboBox *list :
@@ -59,6 +75,8 @@ void styleLists(const Ui::MainWindow &form)
         auto *const view = new QListView(list);
         view->setStyleSheet(listItemStyle);
         list->setView(view);
+        list->setItemDelegate(new QStyledItemDelegate(list)); // the list's own knows no style sheet
+        letEntriesBeRead(*list);
     }
 }
 

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The TAL-VERO Connect developers
 // SPDX-License-Identifier: MIT
 
+#include "formeyes.h"
 #include "formplaces.h"
 
 #include <QComboBox>
@@ -74,6 +75,23 @@ QHash<QString, QRect> placesOf(const FormBench &form)
     return places;
 }
 
+/// The middle, in the window and in pixels, of what is drawn in a widget over its ground.
+double middleOfInk(QWidget *widget)
+{
+    const QImage image = seen(widget, widget->rect());
+    int top = image.height();
+    int bottom = -1;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (contrastOf(image.pixel(x, y), image.pixel(0, 0)) > 1.5) {
+                top = std::min(top, y);
+                bottom = std::max(bottom, y);
+            }
+        }
+    }
+    return placeInWindow(widget).y() + (top + bottom + 1) / 2.0 / widget->devicePixelRatioF();
+}
+
 void addSizes()
 {
     QTest::addColumn<QSize>("size");
@@ -108,6 +126,8 @@ private slots:
     void typedValuesFit();
     void everythingIsSeenAtTheStartSize();
     void theFormIsNotWiderThanItsWindow();
+    void helpIconStandsOnTheMiddleOfItsHeading_data();
+    void helpIconStandsOnTheMiddleOfItsHeading();
     void smallWindowScrollsToEveryCorner();
     void messagesMoveNothing();
     void connectButtonKeepsItsWidth();
@@ -344,6 +364,32 @@ void tst_FormLayout::outputRowStandsOnOneLine()
         QCOMPARE(placeInWindow(other).y(), placeInWindow(button).y());
         QCOMPARE(other->height(), button->height());
     }
+}
+
+void tst_FormLayout::helpIconStandsOnTheMiddleOfItsHeading_data()
+{
+    QTest::addColumn<QString>("heading");
+    QTest::newRow("selectRateInfo") << "selectPortLabel";
+    QTest::newRow("commonSettingsInfo") << "commonSettingsLabel";
+    for (const QString what : {"Enable", "Mode", "TVG", "Inputs", "Pulse", "Gain", "Detect"}) {
+        const QString label = what == "TVG" ? "highTvgLabel" : "high" + what + "Label";
+        QTest::newRow(qPrintable("high" + what + "Info")) << label;
+    }
+}
+
+/// Capitals alone: what hangs below the line does not count for the eye.
+void tst_FormLayout::helpIconStandsOnTheMiddleOfItsHeading()
+{
+    QFETCH(QString, heading);
+    FormBench form;
+    QVERIFY(form.show(startSize));
+    auto *const label = form.find<QLabel>(qPrintable(heading));
+    label->setText("HEH");
+    auto *const button = form.find<QPushButton>(QTest::currentDataTag());
+    button->setEnabled(true);
+    QCoreApplication::sendPostedEvents();
+    const double difference = middleOfInk(button) - middleOfInk(label);
+    QVERIFY2(qAbs(difference) <= 1.0, qPrintable(QString::number(difference)));
 }
 
 QTEST_MAIN(tst_FormLayout)
