@@ -3,7 +3,9 @@
 
 #include "numbertext.h"
 
+#include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace NumberText {
 
@@ -26,15 +28,22 @@ int toInt(const QString &text)
     return text.toInt(); // base 10; 0 when it does not read
 }
 
+float finite(double number)
+{
+    constexpr double greatest = std::numeric_limits<float>::max();
+    return std::isnan(number) ? 0.0F : static_cast<float>(std::clamp(number, -greatest, greatest));
+}
+
 QString fromFloat(float number)
 {
     constexpr int significantDigits = 6;
-    return QString::number(static_cast<double>(number), 'g', significantDigits);
+    return QString::number(static_cast<double>(finite(static_cast<double>(number))), 'g',
+                           significantDigits);
 }
 
 QString fixed(float number, int decimals)
 {
-    return QString::number(static_cast<double>(number), 'f', decimals);
+    return QString::number(static_cast<double>(finite(static_cast<double>(number))), 'f', decimals);
 }
 
 } // namespace NumberText

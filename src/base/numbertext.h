@@ -20,10 +20,15 @@ double toDouble(const QString &text);
 /// The text as a whole number; blanks around it are allowed. 0 for anything else ("5.5" included).
 int toInt(const QString &text);
 
+/// The number as a 32-bit float. What is beyond a float's range becomes its greatest number, and
+/// what is no number becomes 0, as an unreadable text does: an operator can do nothing with "inf".
+float finite(double number);
+
 /// The number with up to six significant digits ("0.3048", "1500").
 QString fromFloat(float number);
 
-/// The number in fixed notation with this many decimals ("1.48").
+/// The number in fixed notation with this many decimals ("1.48"); made finite first, here and
+/// above.
 QString fixed(float number, int decimals);
 
 } // namespace NumberText

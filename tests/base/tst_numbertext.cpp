@@ -8,6 +8,8 @@
 #include <QtTest>
 
 #include <clocale>
+#include <cmath>
+#include <limits>
 
 class NumberTextTest : public QObject
 {
@@ -23,6 +25,8 @@ private slots:
     void floatsAsTexts();
     void fixedDecimals_data();
     void fixedDecimals();
+    void numbersAreMadeFinite_data();
+    void numbersAreMadeFinite();
     void theLocaleOfTheToolkitChangesNothing();
     void theLocaleOfTheSystemChangesNothing();
 };
@@ -206,6 +210,39 @@ void NumberTextTest::fixedDecimals()
     QFETCH(float, number);
     QFETCH(int, decimals);
     QCOMPARE(NumberText::fixed(number, decimals), QString(QTest::currentDataTag()));
+}
+
+void NumberTextTest::numbersAreMadeFinite_data()
+{
+    using Double = std::numeric_limits<double>;
+    constexpr float greatest = std::numeric_limits<float>::max();
+    const QString digits = "340282346638528859811704183484516925440.00";
+    QTest::addColumn<double>("number");
+    QTest::addColumn<float>("finite");
+    QTest::addColumn<QString>("decimals");
+    QTest::addColumn<QString>("digits");
+    // clang-format off
+    QTest::newRow("1.5")          << 1.5                 << 1.5F      << "1.50"       << "1.5";
+    QTest::newRow("a great one")  << 3.4028234663852886e38 << greatest << digits      << "3.40282e+38";
+    QTest::newRow("beyond")       << 1e39                << greatest  << digits       << "3.40282e+38";
+    QTest::newRow("far beyond")   << -1e300              << -greatest << "-" + digits << "-3.40282e+38";
+    QTest::newRow("inf")          << Double::infinity()  << greatest  << digits       << "3.40282e+38";
+    QTest::newRow("-inf")         << -Double::infinity() << -greatest << "-" + digits << "-3.40282e+38";
+    QTest::newRow("nan")          << Double::quiet_NaN() << 0.0F      << "0.00"       << "0";
+    // clang-format on
+}
+
+void NumberTextTest::numbersAreMadeFinite()
+{
+    QFETCH(double, number);
+    QFETCH(float, finite);
+    QVERIFY(NumberText::finite(number) == finite);
+    const bool holds = !(std::abs(number) > 3.4028234663852886e38);
+    const auto narrow = holds ? static_cast<float>(number)
+                              : std::copysign(std::numeric_limits<float>::infinity(),
+                                              static_cast<float>(number > 0 ? 1 : -1));
+    QTEST(NumberText::fixed(narrow, 2), "decimals");
+    QTEST(NumberText::fromFloat(narrow), "digits");
 }
 
 void NumberTextTest::theLocaleOfTheToolkitChangesNothing()

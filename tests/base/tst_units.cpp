@@ -9,6 +9,8 @@
 
 #include <QtTest>
 
+#include <limits>
+
 class UnitsTest : public QObject
 {
     Q_OBJECT
@@ -19,6 +21,8 @@ private slots:
     void aTypedValueIsStoredMetric_data();
     void aTypedValueIsStoredMetric();
     void conversionIsDoneInDoublePrecision();
+    void whatOverflowsInFeetIsTheGreatestNumber_data();
+    void whatOverflowsInFeetIsTheGreatestNumber();
     void switchingToFeetAndBackKeepsEveryValue();
     void switchingIsLogged();
     void rangesStayMetricWhileFeetAreShown();
@@ -97,6 +101,25 @@ void UnitsTest::conversionIsDoneInDoublePrecision()
         QVERIFY(Units::shown(metres, false) == metres);
         QVERIFY(Units::metric(metres, false) == metres);
     }
+}
+
+void UnitsTest::whatOverflowsInFeetIsTheGreatestNumber_data()
+{
+    constexpr float greatest = std::numeric_limits<float>::max();
+    QTest::addColumn<float>("metric");
+    QTest::addColumn<float>("feet");
+    QTest::newRow("3.4e38") << 3.4e38F << greatest;
+    QTest::newRow("-3.4e38") << -3.4e38F << -greatest;
+    QTest::newRow("1.04e38") << 1.04e38F << greatest;
+    QTest::newRow("1e38") << 1e38F << static_cast<float>(1e38F * 3.28084);
+}
+
+void UnitsTest::whatOverflowsInFeetIsTheGreatestNumber()
+{
+    QFETCH(float, metric);
+    QFETCH(float, feet);
+    QVERIFY(Units::shown(metric, true) == feet);
+    QVERIFY(Units::shown(metric, false) == metric);
 }
 
 void UnitsTest::switchingToFeetAndBackKeepsEveryValue()
