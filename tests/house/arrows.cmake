@@ -6,13 +6,14 @@ cmake_minimum_required(VERSION 3.21)
 # Each room, then the rooms that it may know.
 set(arrows
   "base"
+  "labels"
   "resourcefiles"
   "device: base"
   "settings: base device"
   "session: base device settings"
-  "graph: base resourcefiles"
+  "graph: base labels resourcefiles"
   "help: base resourcefiles"
-  "mainwindow: base device graph help resourcefiles session settings"
+  "mainwindow: base device graph help labels resourcefiles session settings"
   "app: base mainwindow")
 
 set(rooms "")
