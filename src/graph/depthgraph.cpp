@@ -5,6 +5,7 @@
 #include "ui_depthgraph.h"
 
 #include "debuglog.h"
+#include "labelroom.h"
 #include "numbertext.h"
 #include "resources.h"
 #include "units.h"
@@ -118,6 +119,8 @@ depthGraph::depthGraph(QWidget *parent)
     for (QLabel *label : {ui->depthGraphFieldHF, ui->depthGraphFieldLF, ui->titleLabel}) {
         label->setFont(font);
     }
+    LabelRoom::keep(*ui->depthGraphFieldHF, "High Frequency Depth: <b>3280.84ft</b>");
+    LabelRoom::keep(*ui->depthGraphFieldLF, "Low Frequency Depth: <b>3280.84ft</b>");
     ui->depthGraphFieldLF->clear();
 }
 

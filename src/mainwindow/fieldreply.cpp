@@ -3,6 +3,7 @@
 
 #include "fieldreply.h"
 
+#include "foreigntext.h"
 #include "numberfield.h"
 #include "numbertext.h"
 #include "replyvalues.h"
@@ -15,7 +16,7 @@ namespace FieldReply {
 
 void asItCame(const NumberField &field, const QString &value, bool /*imperial*/)
 {
-    field.edit->setText(value);
+    field.edit->setText(ForeignText::shown(value));
 }
 
 void count(const NumberField &field, const QString &value, bool /*imperial*/)
@@ -44,7 +45,7 @@ void gain(const NumberField &field, const QString &value, bool imperial)
 
 void pulse(const NumberField &field, const QString &value, bool /*imperial*/)
 {
-    field.value->setText(value);
+    field.value->setText(ForeignText::shown(value));
     field.slider->setValue(NumberText::toInt(value));
 }
 

@@ -5,7 +5,9 @@
 
 #include "busyindicator.h"
 #include "debuglog.h"
+#include "devicelabels.h"
 #include "firmwareupdater.h"
+#include "foreigntext.h"
 #include "keyboardaccess.h"
 #include "ratesearch.h"
 #include "resources.h"
@@ -123,6 +125,7 @@ MainWindow::MainWindow(PortLister portLister, QWidget *parent, PortDetails detai
     // On the tab widget itself the form cannot set it without the pages taking it over.
     ui->h->tabBar()->setCursor(Qt::PointingHandCursor);
     styleLists(*ui);
+    prepareDeviceLabels(*ui);
     new WheelGuard(this);
     new BusyIndicator(*ui->busyIndicator, session, this);
     new StepKeys(this);
@@ -178,10 +181,10 @@ void MainWindow::connectSession()
             [this](const QString &key, const QString &words) { marks.setNotApplied(key, words); });
     connect(&session, &LinkSession::sounded, this, &MainWindow::parseDepth);
     connect(&session, &LinkSession::identifierRead, this, [this](const QString &identifier) {
-        ui->label_24->setText("Serial Number: QZ" + identifier);
+        ui->label_24->setText(ForeignText::shown("Serial Number: QZ" + identifier));
     });
     connect(&session, &LinkSession::statusRead, this, [this](const QString &text) {
-        ui->temperatureLabel->setText("<font color=Green>" + text + "</font>");
+        ui->temperatureLabel->setText("<font color=Green>" + text.toHtmlEscaped() + "</font>");
     });
 }
 

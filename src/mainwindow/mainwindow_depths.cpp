@@ -3,6 +3,7 @@
 
 #include "mainwindow.h"
 
+#include "devicelabels.h"
 #include "marks.h"
 
 #include <QLabel>
@@ -26,7 +27,7 @@ void MainWindow::parseDepth(const QString &line)
         high.depth->setText(*view.highText);
     }
     if (view.lowText) {
-        low.depth->setText(*view.lowText);
+        showLowDepth(*low.depth, *view.lowText);
     }
 }
 

@@ -3,6 +3,7 @@
 
 #include "mainwindow.h"
 
+#include "foreigntext.h"
 #include "ui_mainwindow.h"
 
 #include <QMessageBox>
@@ -124,11 +125,11 @@ void MainWindow::parseBanner(const Protocol::Banner &banner)
         emit setFrequency(meaning->frequency);
         ui->h->setCurrentWidget(meaning->hasHigh ? ui->highFreqTab : ui->lowFreqTab);
     }
-    ui->label_34->setText(title);
+    ui->label_34->setText(ForeignText::shown(title));
 }
 
 void MainWindow::setInfoText(InfoColour colour, const QString &text)
 {
-    ui->infoLabel->setText(QStringLiteral("<font color='") + colourName(colour) + "'>" + text +
-                           "</font>");
+    ui->infoLabel->setText(QStringLiteral("<font color='") + colourName(colour) + "'>" +
+                           text.toHtmlEscaped() + "</font>");
 }
