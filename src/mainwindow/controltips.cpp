@@ -3,6 +3,7 @@
 
 #include "controltips.h"
 
+#include "marks.h"
 #include "outputformat.h"
 
 #include <QWidget>
@@ -83,7 +84,7 @@ void ControlTips::give(QWidget *widget, Tip &tip)
 {
     const QString &text = tip.reason.isEmpty() ? tip.own : tip.reason;
     if (text != tip.given) {
-        widget->setToolTip(text);
+        Marks::setPlainToolTip(widget, text);
         tip.given = text;
     }
 }

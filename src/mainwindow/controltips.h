@@ -12,8 +12,8 @@
 
 class QWidget;
 
-/// What controls tell under the pointer: while locked why, otherwise what is their own. A tooltip
-/// that somebody else has given a control stays until one of the two changes.
+/// What controls tell under the pointer: while locked why, otherwise what is their own. What a mark
+/// says of a value (see marks.h) goes before both.
 class ControlTips
 {
 public:

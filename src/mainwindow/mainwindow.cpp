@@ -6,6 +6,7 @@
 #include "busyindicator.h"
 #include "debuglog.h"
 #include "devicelabels.h"
+#include "fieldtips.h"
 #include "firmwareupdater.h"
 #include "foreigntext.h"
 #include "keyboardaccess.h"
@@ -47,6 +48,26 @@ std::unique_ptr<Ui::MainWindow> formOn(MainWindow &window)
     auto form = std::make_unique<Ui::MainWindow>();
     form->setupUi(&window);
     return form;
+}
+
+/// The colours in which the info line speaks, as its rich text names them.
+const char *colourName(InfoColour colour)
+{
+    switch (colour) {
+    case InfoColour::Success:
+        return "Green";
+    case InfoColour::Failure:
+        return "Red";
+    case InfoColour::Progress:
+        break;
+    }
+    return "black";
+}
+
+QString inColour(InfoColour colour, const QString &text)
+{
+    return QStringLiteral("<font color='") + colourName(colour) + "'>" + text.toHtmlEscaped() +
+           "</font>";
 }
 
 LinkChoices linkChoices(const Ui::MainWindow &form)
@@ -118,7 +139,6 @@ MainWindow::MainWindow(PortLister portLister, QWidget *parent, PortDetails detai
     , common(*this)
     , high(*this, "high", "HF")
     , low(*this, "low", "LF")
-    , marks(common, high, low)
 {
     showSharp(ui->headerLabel, ":/resourcefiles/images/brimsett-logo-header.png");
     resize(normalSize);
@@ -167,8 +187,12 @@ void MainWindow::makeConnections()
 /// Shows what the session tells.
 void MainWindow::connectSession()
 {
-    connect(&session.info(), &InfoLine::shown, this, &MainWindow::setInfoText);
-    connect(&session.info(), &InfoLine::explained, ui->infoLabel, &QWidget::setToolTip);
+    connect(&session.info(), &InfoLine::shown, this,
+            [this](InfoColour colour, const QString &text) {
+                ui->infoLabel->setText(inColour(colour, text));
+            });
+    connect(&session.info(), &InfoLine::explained, this,
+            [this](const QString &reason) { ui->infoLabel->setToolTip(literalToolTip(reason)); });
     connect(&session, &LinkSession::stateChanged, this, &MainWindow::followLink);
     connect(&ports, &PortChooser::listed, this,
             [this] { tips.setOwn(ui->portComboBox, ports.advice()); });
@@ -176,9 +200,11 @@ void MainWindow::connectSession()
     connect(&session, &LinkSession::identified, this, &MainWindow::parseBanner);
     connect(&session, &LinkSession::settingsReplied, this, &MainWindow::parseSetting);
     connect(&session, &LinkSession::settingAccepted, this,
-            [this](const QString &key) { marks.setApplied(key); });
+            [this](const QString &key) { SettingMarks(common, high, low).setApplied(key); });
     connect(&session, &LinkSession::settingNotApplied, this,
-            [this](const QString &key, const QString &words) { marks.setNotApplied(key, words); });
+            [this](const QString &key, const QString &words) {
+                SettingMarks(common, high, low).setNotApplied(key, words);
+            });
     connect(&session, &LinkSession::sounded, this, &MainWindow::parseDepth);
     connect(&session, &LinkSession::identifierRead, this, [this](const QString &identifier) {
         ui->label_24->setText(ForeignText::shown("Serial Number: QZ" + identifier));

@@ -196,7 +196,6 @@ private:
     void followLink(SessionState state);
     void setConnectButton(bool connected);
     void parseBanner(const Protocol::Banner &banner);
-    void setInfoText(InfoColour colour, const QString &text);
 
     // ---- mainwindow_settingsreply.cpp: what the unit is set to
     void parseSetting(const Protocol::SettingsReply &reply);
@@ -218,7 +217,6 @@ private:
     // ---- mainwindow_tips.cpp: what the controls tell under the pointer
     void explainLocks(const ControlRules::Locks &locks);
     void tellRanges(bool imperial);
-    void tellRangesOf(const NumberField &field, bool imperial);
 
     // ---- mainwindow_options.cpp: modes, channels, output, unit of display
     void chooseMode(bool checked, ChannelPane &pane, const QString &mode);
@@ -232,7 +230,6 @@ private:
     // ---- mainwindow_actions.cpp: what is not the edit of one setting
     void resetToFactory();
     void updateFirmware();
-    void rememberAutoSave(bool selected);
     void toggleFooter();
     void showHelp(const QString &topic);
 
@@ -245,7 +242,6 @@ private:
     CommonFields common;
     ChannelPane high;
     ChannelPane low;
-    SettingMarks marks;
     Soundings soundings;
     Protocol::ChannelFit fit = Protocol::ChannelFit::Unknown; ///< of the unit connected last
     bool autoSave = false;

@@ -51,12 +51,6 @@ void MainWindow::updateFirmware()
     }
 }
 
-void MainWindow::rememberAutoSave(bool selected)
-{
-    autoSave = selected;
-    DEBUG_LOG_AS("on_autoSave_toggled") << "Autosave is " << autoSave;
-}
-
 void MainWindow::toggleFooter()
 {
     const bool nowShown = ui->widget_40->isHidden();

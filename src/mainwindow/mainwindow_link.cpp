@@ -48,25 +48,14 @@ ControlRules::ChannelState identifiedChannel(ControlRules::ChannelState state, b
     return state;
 }
 
-/// The colours in which the info line speaks, as its rich text names them.
-const char *colourName(InfoColour colour)
-{
-    switch (colour) {
-    case InfoColour::Success:
-        return "Green";
-    case InfoColour::Failure:
-        return "Red";
-    case InfoColour::Progress:
-        break;
-    }
-    return "black";
-}
-
 void showError(QWidget *parent, const char *text, const QString &reason = QString())
 {
     QMessageBox box(QMessageBox::Information, QStringLiteral("Error"), text, QMessageBox::Ok,
                     parent);
     box.setInformativeText(reason);
+    for (QLabel *label : box.findChildren<QLabel *>()) {
+        label->setTextFormat(Qt::PlainText); // the system's words are no mark-up
+    }
     box.exec();
 }
 
@@ -94,7 +83,7 @@ void MainWindow::followLink(SessionState state)
         updateControls();
     }
     if (state == SessionState::Offline) {
-        marks.clear();
+        SettingMarks(common, high, low).clear();
         showDepthsAlive(false);
     }
     setConnectButton(state != SessionState::Offline);
@@ -126,10 +115,4 @@ void MainWindow::parseBanner(const Protocol::Banner &banner)
         ui->h->setCurrentWidget(meaning->hasHigh ? ui->highFreqTab : ui->lowFreqTab);
     }
     ui->label_34->setText(ForeignText::shown(title));
-}
-
-void MainWindow::setInfoText(InfoColour colour, const QString &text)
-{
-    ui->infoLabel->setText(QStringLiteral("<font color='") + colourName(colour) + "'>" +
-                           text.toHtmlEscaped() + "</font>");
 }

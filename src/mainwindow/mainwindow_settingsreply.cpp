@@ -22,6 +22,7 @@ bool isAbout(const Protocol::ReplyPiece &piece, const char *setting)
 void MainWindow::parseSetting(const Protocol::SettingsReply &reply)
 {
     const SettingEditor::Pause paused(editor);
+    const SettingMarks marks(common, high, low);
     for (const Protocol::ReplyPiece &piece : reply.pieces) {
         switch (reply.kind) {
         case Protocol::ReplyKind::Common:

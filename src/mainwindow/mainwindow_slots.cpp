@@ -42,7 +42,7 @@ void MainWindow::on_saveSettingsToDevice_clicked() { session.sendAtOnce("Sending
 void MainWindow::on_resetSettings_clicked() { resetToFactory(); }
 void MainWindow::on_importButton_clicked() { chooseImportFile(this); }
 void MainWindow::on_BootloadButton_clicked() { updateFirmware(); }
-void MainWindow::on_autoSave_toggled(bool selected) { rememberAutoSave(selected); }
+void MainWindow::on_autoSave_toggled(bool selected) { autoSave = selected; DEBUG_LOG << "Autosave is " << autoSave; }
 
 void MainWindow::on_pingDown_clicked() { editor.step(common.pings, down); }
 void MainWindow::on_pingUp_clicked() { editor.step(common.pings, up); }

@@ -7,6 +7,20 @@
 #include "stepbuttons.h"
 #include "ui_mainwindow.h"
 
+namespace {
+
+void tellRangesOf(const NumberField &field, const StepButtons &buttons, bool imperial,
+                  ControlTips &tips)
+{
+    tips.setOwn(buttons.down, stepToolTip(field, imperial));
+    tips.setOwn(buttons.up, stepToolTip(field, imperial));
+    if (field.edit != nullptr) {
+        tips.setOwn(field.edit, rangeToolTip(field, imperial));
+    }
+}
+
+} // namespace
+
 void MainWindow::explainLocks(const ControlRules::Locks &locks)
 {
     for (QWidget *control :
@@ -29,21 +43,11 @@ void MainWindow::explainLocks(const ControlRules::Locks &locks)
 void MainWindow::tellRanges(bool imperial)
 {
     for (const NumberField *field : {&common.pings, &common.velocity, &common.maxDepth}) {
-        tellRangesOf(*field, imperial);
+        tellRangesOf(*field, stepButtonsOf(*this, *field), imperial, tips);
     }
     for (const ChannelPane *pane : {&high, &low}) {
         for (const NumberField *field : pane->fields()) {
-            tellRangesOf(*field, imperial);
+            tellRangesOf(*field, stepButtonsOf(*this, *field), imperial, tips);
         }
-    }
-}
-
-void MainWindow::tellRangesOf(const NumberField &field, bool imperial)
-{
-    const StepButtons buttons = stepButtonsOf(*this, field);
-    tips.setOwn(buttons.down, stepToolTip(field, imperial));
-    tips.setOwn(buttons.up, stepToolTip(field, imperial));
-    if (field.edit != nullptr) {
-        tips.setOwn(field.edit, rangeToolTip(field, imperial));
     }
 }

@@ -14,7 +14,7 @@ set(arrows
   "graph: base labels resourcefiles"
   "help: base resourcefiles"
   "mainwindow: base device graph help labels resourcefiles session settings"
-  "app: base mainwindow")
+  "app: base mainwindow resourcefiles")
 
 set(rooms "")
 foreach(arrow IN LISTS arrows)
