@@ -53,6 +53,8 @@ private slots:
     void anAnnouncedCommandGoesOutAtOnce();
 
 private:
+    QString doesNotOpen(const QString &port);
+
     std::unique_ptr<SessionBench> bench;
 };
 
@@ -174,6 +176,13 @@ void LinkSessionTest::aPortThatDoesNotOpenChangesNothing_data()
     QTest::newRow("a port that another program holds") << true;
 }
 
+/// The log line that says so, with the reason.
+QString LinkSessionTest::doesNotOpen(const QString &port)
+{
+    return QString("The serial port does not open: \"%1\" \"%2\"")
+        .arg(port, bench->session.portTrouble());
+}
+
 void LinkSessionTest::aPortThatDoesNotOpenChangesNothing()
 {
     QFETCH(bool, isThere);
@@ -184,7 +193,8 @@ void LinkSessionTest::aPortThatDoesNotOpenChangesNothing()
     }
     QVERIFY(bench->session.press() == Press::NotOpened);
     QCOMPARE(bench->takeTold(), QStringList());
-    QCOMPARE(bench->takeLog(), QStringList());
+    QCOMPARE(bench->takeLog(), QStringList{doesNotOpen(bench->choices.port)});
+    QVERIFY(!bench->session.portTrouble().isEmpty());
     QCOMPARE(bench->state(), QString("Offline"));
     QVERIFY(!bench->session.answerWatch().isActive());
     otherProgram.close();
@@ -197,14 +207,14 @@ void LinkSessionTest::aSearchAtAPortThatDoesNotOpenEndsWithItsFirstSilence()
     bench->choices.rate = "Auto";
     QVERIFY(bench->session.press() == Press::Underway);
     QCOMPARE(bench->takeTold(), (QStringList{"rate 4800", "state Searching"}));
-    QCOMPARE(bench->takeLog(),
-             (QStringList{"GOING AUTO!", "current text is now  \"4800\"", "Connection failed"}));
+    QCOMPARE(bench->takeLog(), (QStringList{"GOING AUTO!", "current text is now  \"4800\"",
+                                            doesNotOpen(nobody), "Connection failed"}));
     QVERIFY(bench->session.answerWatch().isActive());
 
     bench->session.serialTimeout(false);
     QCOMPARE(bench->takeTold(), (QStringList{"rate 9600", "state Offline", notConnected}));
     QCOMPARE(bench->takeLog(), (QStringList{"SERIAL TIMED OUT", "current text is now  \"9600\"",
-                                            "Connection failed"}));
+                                            doesNotOpen(nobody), "Connection failed"}));
     QVERIFY(!bench->session.answerWatch().isActive());
 }
 
