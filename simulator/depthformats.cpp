@@ -3,7 +3,9 @@
 
 #include "depthformats.h"
 
+#include <algorithm>
 #include <cmath>
+#include <iterator>
 
 namespace {
 
@@ -112,22 +114,51 @@ QByteArrayList sonarmiteDual(const Sounding &sounding)
 
 struct Format
 {
+    int number;
     const char *name;
     QByteArrayList (*lines)(const Sounding &);
 };
 
-/// By the device's numbers, from 1 on.
 constexpr Format formats[] = {
-    {"ODOM", odom},
-    {"NMEA DBT", nmeaDbt},
-    {"NMEA DBS", nmeaDbs},
-    {"ORVANDO", orvando},
-    {"DESO 25", deso25},
-    {"KESTROLA", kestrola},
-    {"SONARMITE OLD", sonarmite},
-    {"SONARMITE NEW", sonarmite},
-    {"SONARMITE DUAL", sonarmiteDual},
+    {Odom, "ODOM", odom},
+    {NmeaDbt, "NMEA DBT", nmeaDbt},
+    {NmeaDbs, "NMEA DBS", nmeaDbs},
+    {Orvando, "ORVANDO", orvando},
+    {Deso25, "DESO 25", deso25},
+    {Kestrola, "KESTROLA", kestrola},
+    {SonarmiteOld, "SONARMITE OLD", sonarmite},
+    {SonarmiteNew, "SONARMITE NEW", sonarmite},
+    {SonarmiteDual, "SONARMITE DUAL", sonarmiteDual},
 };
+
+constexpr int digitsOf(int number) { return number < 10 ? 1 : 1 + digitsOf(number / 10); }
+
+/// By rising numbers, the last of which is the longest.
+constexpr bool areInOrder()
+{
+    int before = 0;
+    for (const Format &format : formats) {
+        if (format.number <= before) {
+            return false;
+        }
+        before = format.number;
+    }
+    return digitsOf(before) == DepthFormats::mostDigits;
+}
+
+static_assert(areInOrder(), "the numbers must rise, the last with as many digits as a command has");
+
+template <typename Predicate>
+const Format *firstOf(Predicate fits)
+{
+    const auto found = std::find_if(std::begin(formats), std::end(formats), fits);
+    return found == std::end(formats) ? nullptr : found;
+}
+
+const Format *find(int number)
+{
+    return firstOf([number](const Format &format) { return format.number == number; });
+}
 
 } // namespace
 
@@ -143,23 +174,23 @@ const QStringList &DepthFormats::names()
     return list;
 }
 
+bool DepthFormats::isKnown(int number) { return find(number) != nullptr; }
+
 int DepthFormats::number(const QString &name)
 {
-    const QStringList &list = names();
-    for (int i = 0; i < list.size(); ++i) {
-        if (list[i].compare(name, Qt::CaseInsensitive) == 0) {
-            return i + 1;
-        }
-    }
-    return 0;
+    const Format *named = firstOf([&name](const Format &format) {
+        return name.compare(QLatin1String(format.name), Qt::CaseInsensitive) == 0;
+    });
+    return named ? named->number : 0;
 }
 
 QByteArrayList DepthFormats::lines(int format, const DepthPair &depths, SounderChannel single)
 {
-    if (format < 1 || format > names().size()) {
+    const Format *known = find(format);
+    if (!known) {
         return {};
     }
     Sounding sounding{toCentimetres(depths.high), toCentimetres(depths.low), {}};
     sounding.single = single == SounderChannel::High ? sounding.high : sounding.low;
-    return formats[format - 1].lines(sounding);
+    return known->lines(sounding);
 }

@@ -18,7 +18,7 @@ struct DepthPair
 };
 
 /// The device's numbers of its output formats, as its set command and its settings reply carry
-/// them.
+/// them. They need not follow each other.
 enum DepthFormat {
     Odom = 1,
     NmeaDbt,
@@ -33,8 +33,14 @@ enum DepthFormat {
 
 namespace DepthFormats {
 
-/// "ODOM", "NMEA DBT", … in the order of the device's numbers, the first being number 1.
+/// The digits of the longest number: a set command has no more.
+inline constexpr int mostDigits = 1;
+
+/// "ODOM", "NMEA DBT", … in the order of the device's numbers.
 const QStringList &names();
+
+/// Whether a format has this number.
+bool isKnown(int number);
 
 /// The number of a format name, whatever its letter case; 0 if there is none.
 int number(const QString &name);

@@ -29,7 +29,7 @@ std::optional<int> readDigits(const QByteArray &text, const Digits &digits)
 bool setCommonNumber(const CommonNumber &number, const QByteArray &text, SounderSettings &settings)
 {
     const std::optional<int> sent = readDigits(text, number.digits);
-    if (!sent || !number.range.holds(*sent + number.offset)) {
+    if (!sent || !number.holds(*sent + number.offset)) {
         return false;
     }
     SounderSettings changed = settings;

@@ -7,8 +7,19 @@ using namespace SettingTables;
 
 namespace {
 
-/// The letters of a channel line of the settings reply, in the order in which they stand there.
-constexpr char channelReplyOrder[] = "cglmopqtw";
+/// The letters of a channel line of the settings reply. The device sorts them.
+QByteArray channelReplyLetters()
+{
+    QByteArray letters;
+    for (const ChannelLetter &row : channelLetters) {
+        letters += row.letter;
+    }
+    for (const ChannelNumber &row : channelNumbers) {
+        letters += row.letter;
+    }
+    std::sort(letters.begin(), letters.end());
+    return letters;
+}
 
 QByteArray padded(int number, int width)
 {
@@ -29,7 +40,7 @@ QByteArray commonLine(const SounderSettings &settings)
 QByteArray channelLine(char mark, const ChannelSettings &channel)
 {
     QByteArrayList pieces;
-    for (const char letter : QByteArray(channelReplyOrder)) {
+    for (const char letter : channelReplyLetters()) {
         QByteArray piece{mark + QByteArray(1, letter)};
         if (const ChannelLetter *row = find(channelLetters, letter)) {
             piece += channel.*row->value;
@@ -82,7 +93,7 @@ bool isWithinRanges(const ChannelSettings &channel, SounderChannel which)
 bool isWithinRanges(const SounderSettings &settings, SounderFit fit)
 {
     const auto numberIsRight = [&](const CommonNumber &row) {
-        return row.range.holds(settings.*row.value);
+        return row.holds(settings.*row.value);
     };
     const auto channelIsRight = [&](SounderChannel which) {
         return hasChannel(fit, which) ? isWithinRanges(settings.channel(which), which)

@@ -29,12 +29,18 @@ struct Digits
     int most;
 };
 
+template <int min, int max>
+constexpr bool within(int value)
+{
+    return value >= min && value <= max;
+}
+
 struct CommonNumber
 {
     char letter;
     Digits digits;
-    int offset; ///< the command carries the value less this
-    Range range;
+    int offset;               ///< the command carries the value less this
+    bool (*holds)(int value); ///< whether the device takes it
     int SounderSettings::*value;
 };
 
@@ -65,10 +71,10 @@ inline constexpr int velocityOffset = 1000000;
 
 // clang-format off
 inline constexpr CommonNumber commonNumbers[] = {
-    {'i', {2, 2}, 0,              {1, 10},               &SounderSettings::pings},
-    {'v', {4, 6}, velocityOffset, {1300000, 1750000},    &SounderSettings::velocityMmS},
-    {'s', {6, 6}, 0,              {3000, 100000},        &SounderSettings::maxDepthMm},
-    {'a', {1, 1}, 0,              {Odom, SonarmiteDual}, &SounderSettings::format},
+    {'i', {2, 2},                        0,              within<1, 10>,            &SounderSettings::pings},
+    {'v', {4, 6},                        velocityOffset, within<1300000, 1750000>, &SounderSettings::velocityMmS},
+    {'s', {6, 6},                        0,              within<3000, 100000>,     &SounderSettings::maxDepthMm},
+    {'a', {1, DepthFormats::mostDigits}, 0,              DepthFormats::isKnown,    &SounderSettings::format},
 };
 
 inline constexpr ChannelNumber channelNumbers[] = {

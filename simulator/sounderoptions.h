@@ -44,7 +44,7 @@ struct SounderOptions
 {
     SounderFit fit = SounderFit::Dual;
     int rate = 0;   ///< the rate set in the device at power-up; 0: as kept in its memory, or 9600
-    int format = 0; ///< the output format (1 to 9) at power-up; 0: as kept, or the factory's
+    int format = 0; ///< the output format's number at power-up; 0: as kept, or the factory's
     QString firmware = QStringLiteral("2.14.7");
     quint32 seed = 1;      ///< every random choice and the sea bed follow from it
     bool soundings = true; ///< sends depth sentences of its own accord

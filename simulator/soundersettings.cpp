@@ -1,17 +1,27 @@
 // SPDX-FileCopyrightText: 2026 The TAL-VERO Connect developers
 // SPDX-License-Identifier: MIT
 
-#include "soundersettings.h"
+#include "settingtables.h"
 
 #include <tuple>
 
+using namespace SettingTables;
+
+namespace {
+
+/// Whether two holders have the same values in all that a table speaks of.
+template <typename Table, typename Settings>
+bool haveSame(const Table &table, const Settings &one, const Settings &other)
+{
+    return std::all_of(std::begin(table), std::end(table),
+                       [&](const auto &row) { return one.*row.value == other.*row.value; });
+}
+
+} // namespace
+
 bool ChannelSettings::operator==(const ChannelSettings &other) const
 {
-    const auto values = [](const ChannelSettings &c) {
-        return std::tie(c.mode, c.gain, c.tvg, c.blankingMm, c.draftMm, c.indexMm, c.pulse,
-                        c.detect, c.freqKHz);
-    };
-    return values(*this) == values(other);
+    return haveSame(channelNumbers, *this, other) && haveSame(channelLetters, *this, other);
 }
 
 ChannelSettings &SounderSettings::channel(SounderChannel which)
@@ -32,10 +42,9 @@ bool SounderSettings::isOn(SounderChannel which) const
 bool SounderSettings::operator==(const SounderSettings &other) const
 {
     const auto values = [](const SounderSettings &s) {
-        return std::tie(s.pings, s.velocityMmS, s.maxDepthMm, s.format, s.rate, s.highOn, s.lowOn,
-                        s.high, s.low);
+        return std::tie(s.rate, s.highOn, s.lowOn, s.high, s.low);
     };
-    return values(*this) == values(other);
+    return haveSame(commonNumbers, *this, other) && values(*this) == values(other);
 }
 
 SounderSettings factorySettings(SounderFit fit)

@@ -35,7 +35,7 @@ struct SounderSettings
     int pings = 5;             ///< a second, 1 to 10
     int velocityMmS = 1500000; ///< 1300 to 1750 m/s
     int maxDepthMm = 30000;    ///< 3 to 100 m
-    int format = 3;            ///< 1 to 9, see depthformats.h
+    int format = 3;            ///< see depthformats.h
     int rate = 9600;           ///< bits a second
     bool highOn = true;
     bool lowOn = true;

@@ -78,11 +78,9 @@ void MainWindow::applyRate(const QString &value)
 
 void MainWindow::applyFormat(const QString &value)
 {
-    const int place = ReplyValues::formatPlace(ReplyValues::letter(value));
-    if (place >= 0) {
-        const OutputFormat &format = OutputFormats::all().at(static_cast<std::size_t>(place));
-        ui->formatComboBox->setCurrentText(format.name);
-        common.formatFixesOptions = format.fixesOptions(); // however it came to be chosen
+    if (const OutputFormat *format = ReplyValues::format(value)) {
+        ui->formatComboBox->setCurrentText(format->name);
+        common.formatFixesOptions = format->fixesOptions(); // however it came to be chosen
         updateControls();
     }
 }

@@ -31,26 +31,26 @@ constexpr Row rows[] = {
 };
 // clang-format on
 
-constexpr bool isNumbered(int deviceNumber)
+constexpr int formatsWith(int deviceNumber)
 {
     int formats = 0;
     for (const Row &row : rows) {
         formats += row.deviceNumber == deviceNumber ? 1 : 0;
     }
-    return formats == 1;
+    return formats;
 }
 
-constexpr bool areNumberedThroughout()
+constexpr bool areNumberedApart()
 {
-    for (int number = 1; number <= static_cast<int>(std::size(rows)); ++number) {
-        if (!isNumbered(number)) {
+    for (const Row &row : rows) {
+        if (row.deviceNumber < 1 || formatsWith(row.deviceNumber) > 1) {
             return false;
         }
     }
     return true;
 }
 
-static_assert(areNumberedThroughout(), "each number from 1 on must belong to one format");
+static_assert(areNumberedApart(), "each format needs a number of its own, from 1 on");
 
 std::vector<OutputFormat> formatsOfRows()
 {

@@ -46,12 +46,16 @@ int gainPercent(const QString &gain)
     return static_cast<int>(std::trunc(percent + toNearest));
 }
 
-int formatPlace(QChar number)
+const OutputFormat *format(const QString &value)
 {
-    const bool isDigit = number >= QLatin1Char('0') && number <= QLatin1Char('9');
-    const OutputFormat *format =
-        isDigit ? OutputFormats::findByNumber(number.unicode() - '0') : nullptr;
-    return format ? format->placeInChooser : -1;
+    const OutputFormat *longest = nullptr;
+    for (const OutputFormat &known : OutputFormats::all()) {
+        const bool isLonger = !longest || known.deviceNumber > longest->deviceNumber;
+        if (isLonger && value.startsWith(QString::number(known.deviceNumber))) {
+            longest = &known;
+        }
+    }
+    return longest;
 }
 
 QChar letter(const QString &value) { return value.isEmpty() ? QChar() : value.at(0); }

@@ -7,6 +7,8 @@
 #include <QChar>
 #include <QString>
 
+struct OutputFormat;
+
 /// What the values in the sounder's settings reply mean to the operator. Pure functions.
 namespace ReplyValues {
 
@@ -19,9 +21,9 @@ int blankingPosition(const QString &millimetres, bool imperial);
 /// The sounder counts gain from 0 to 100, the operator from 30 to 100 percent.
 int gainPercent(const QString &gain);
 
-/// The place in the operator's list of formats, from 0, of the sounder's own number for a format
-/// ("1" to "9"); -1 for any other character.
-int formatPlace(QChar number);
+/// The format by whose number the value begins ("3", "9"), the longest if several do; nullptr if
+/// none does.
+const OutputFormat *format(const QString &value);
 
 /// The first character of a value; the null character of an empty one.
 QChar letter(const QString &value);

@@ -194,13 +194,38 @@ constexpr Row rowOf(const ChannelRow &row, SettingChannel channel)
             ""};
 }
 
+/// What stands behind a shown number of this unit.
+struct Suffix
+{
+    SettingUnit unit;
+    const char *metric;
+    const char *imperial;
+};
+
+constexpr Suffix suffixes[] = {
+    {SettingUnit::None, "", ""},       {SettingUnit::Count, "", ""},
+    {SettingUnit::Percent, "%", "%"},  {SettingUnit::Kilohertz, " kHz", " kHz"},
+    {SettingUnit::Metre, " m", " ft"}, {SettingUnit::MetrePerSecond, " m/s", " ft/s"},
+};
+
+constexpr const Suffix *suffixOf(SettingUnit unit)
+{
+    for (const Suffix &suffix : suffixes) {
+        if (suffix.unit == unit) {
+            return &suffix;
+        }
+    }
+    return nullptr;
+}
+
 constexpr bool isComplete(const Row &row)
 {
     const bool isNamed = *row.key != '\0' && *row.prettyName != '\0';
     const bool isOnTheWire = row.sent.toCommand && row.sent.toNumber && row.fromReport;
     const bool holdsWords = row.held.words && row.shown.unit == SettingUnit::None;
     const bool holdsNumbers = !row.held.words && row.held.lowest < row.held.highest &&
-                              row.shown.step > 0 && row.shown.unit != SettingUnit::None;
+                              row.shown.step > 0 && row.shown.unit != SettingUnit::None &&
+                              suffixOf(row.shown.unit);
     return isNamed && isOnTheWire && (row.held.kind == ValueKind::Word ? holdsWords : holdsNumbers);
 }
 
@@ -220,7 +245,8 @@ constexpr bool areComplete()
     return true;
 }
 
-static_assert(areComplete(), "a row has no name, no range or words, or a function is missing");
+static_assert(areComplete(),
+              "a row has no name, no range or words, a unit without a suffix, or lacks a function");
 
 SettingSpec specOf(const Row &row)
 {
@@ -271,16 +297,6 @@ std::vector<SettingSpec> specsOfRows()
     return specs;
 }
 
-struct Suffix
-{
-    const char *metric;
-    const char *imperial;
-};
-
-/// In the order of `SettingUnit`.
-constexpr Suffix suffixes[] = {{"", ""},         {"", ""},      {"%", "%"},
-                               {" kHz", " kHz"}, {" m", " ft"}, {" m/s", " ft/s"}};
-
 } // namespace
 
 bool SettingSpec::isConvertible() const
@@ -290,8 +306,8 @@ bool SettingSpec::isConvertible() const
 
 QString SettingSpec::suffix(bool imperial) const
 {
-    const Suffix &own = suffixes[static_cast<std::size_t>(unit)];
-    return imperial ? own.imperial : own.metric;
+    const Suffix *own = suffixOf(unit);
+    return imperial ? own->imperial : own->metric;
 }
 
 namespace SettingSpecs {

@@ -69,9 +69,11 @@ void TestDepthSentence::sentenceGivesBothDepths_data()
     QTest::addColumn<float>("high");
     QTest::addColumn<float>("low");
     QTest::addColumn<Emptied>("emptied");
-    const auto row = [](const char *line, Form form, float high, float low,
-                        Emptied emptied = Emptied::None) {
+    QSet<int> forms;
+    const auto row = [&forms](const char *line, Form form, float high, float low,
+                              Emptied emptied = Emptied::None) {
         QTest::newRow(line) << QString(line) << form << high << low << emptied;
+        forms << static_cast<int>(form);
     };
     row("00131T-94L\t00123T-95H", Form::Kestrola, 1.23F, 1.31F);
     row("00131T-95L\t00123T-94H", Form::Kestrola, 1.23F, 1.31F);
@@ -111,6 +113,9 @@ void TestDepthSentence::sentenceGivesBothDepths_data()
     row("e00131e00777", Form::SingleLow, none, 1.31F);
     row("0 1.23 1.31 78", Form::Unknown, none, none);
     row("?", Form::Unknown, none, none);
+    forms << static_cast<int>(Form::SonarmiteHigh)
+          << static_cast<int>(Form::SonarmiteDual); // below
+    QCOMPARE(forms.size(), static_cast<int>(Form::Unknown) + 1);
 }
 
 void TestDepthSentence::sentenceGivesBothDepths()

@@ -74,6 +74,7 @@ private slots:
     void sliderHasItsRangeAndSteps();
     void captionReadsAsTheTableSays_data();
     void captionReadsAsTheTableSays();
+    void everyCaptionOfAControlIsInTheTable();
     void buttonShowsItsIcon_data();
     void buttonShowsItsIcon();
     void listHoldsOnlyItsPlaceholder_data();
@@ -196,9 +197,23 @@ void tst_MainWindowForm::captionReadsAsTheTableSays()
     const FormBench &form = *untouched;
     const auto *label = form.find<QLabel>(expected.label);
     QVERIFY(label != nullptr);
-    QCOMPARE(label->text(), QString::fromLatin1(expected.text));
+    QCOMPARE(label->text(), QString::fromUtf8(expected.text));
     const QString named = label->buddy() == nullptr ? QString() : label->buddy()->objectName();
     QCOMPARE(named, QString::fromLatin1(expected.control));
+}
+
+void tst_MainWindowForm::everyCaptionOfAControlIsInTheTable()
+{
+    QStringList known;
+    for (const Caption &caption : captionTable()) {
+        known << QLatin1String(caption.label);
+    }
+    FormBench form;
+    const auto labels = form.window.findChildren<QLabel *>();
+    for (const QLabel *label : labels) {
+        QVERIFY2(label->buddy() == nullptr || known.contains(label->objectName()),
+                 qPrintable(label->objectName()));
+    }
 }
 
 void tst_MainWindowForm::buttonShowsItsIcon_data()

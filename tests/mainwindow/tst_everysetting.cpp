@@ -3,6 +3,7 @@
 
 #include "appearance.h"
 #include "everysetting.h"
+#include "outputformat.h"
 #include "sliderbench.h"
 #include "wirereckoning.h"
 
@@ -40,6 +41,14 @@ QSet<QString> controlsOnTheForm(const QWidget &window)
     return names - notForTheSounder;
 }
 
+/// With a blank between them.
+QString sorted(const QSet<QString> &names)
+{
+    QStringList list(names.begin(), names.end());
+    list.sort();
+    return list.join(' ');
+}
+
 QString asQString(const QByteArray &text) { return QString::fromLatin1(text); }
 
 } // namespace
@@ -55,6 +64,7 @@ private slots:
     void cleanupTestCase();
 
     void everyControlOfTheFormIsWalked();
+    void everyFormatIsWalked();
     void editsAndTheirButtons_data();
     void editsAndTheirButtons();
     void slidersAndTheirButtons_data();
@@ -140,7 +150,21 @@ QSet<QString> EverySettingTest::controlsOfTheWalk()
 void EverySettingTest::everyControlOfTheFormIsWalked()
 {
     const WindowBench window;
-    QCOMPARE(controlsOfTheWalk(), controlsOnTheForm(window.window));
+    const QSet<QString> onForm = controlsOnTheForm(window.window);
+    QCOMPARE(sorted(onForm - controlsOfTheWalk()), QString());
+    QCOMPARE(sorted(controlsOfTheWalk() - onForm), QString());
+}
+
+void EverySettingTest::everyFormatIsWalked()
+{
+    QStringList walked;
+    for (const EverySetting::Option &option : EverySetting::formats) {
+        walked << option.name;
+    }
+    QStringList known = OutputFormats::names();
+    walked.sort();
+    known.sort();
+    QCOMPARE(walked.join(", "), known.join(", "));
 }
 
 void EverySettingTest::drive(const QString &control, const std::function<void()> &act,

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The TAL-VERO Connect developers
 // SPDX-License-Identifier: MIT
 
+#include "outputformat.h"
 #include "surveybench.h"
 
 #include <QtTest>
@@ -144,10 +145,13 @@ void TestOutputFormats::depthsSentAreTheDepthsRead_data()
     QTest::addColumn<bool>("imperial");
     QTest::addColumn<Reading>("reading");
     const auto rows = [](const Unit &unit, bool imperial, const auto &readings) {
+        QStringList withoutReading = OutputFormats::names();
         for (const Reading &reading : readings) {
+            withoutReading.removeOne(reading.format);
             QTest::addRow("%s, %s, %s", unit.name, reading.format, imperial ? "ft" : "m")
                 << unit << imperial << reading;
         }
+        QCOMPARE(withoutReading.join(", "), QString());
     };
     rows(dual, false, ofBothChannels);
     rows(dualLowOff, false, ofHighChannel);

@@ -78,25 +78,26 @@ void OutputListsTest::formatsAndRatesStandInTheirOrder()
 
 void OutputListsTest::aFormatIsSentByTheDevicesOwnNumber_data()
 {
-    QTest::addColumn<QString>("format");
     QTest::addColumn<int>("number");
-    const char *const formats[] = {"ODOM",          "NMEA DBT",      "NMEA DBS",
-                                   "ORVANDO",       "DESO 25",       "KESTROLA",
-                                   "SONARMITE OLD", "SONARMITE NEW", "SONARMITE DUAL"};
-    int number = 0;
-    for (const char *format : formats) {
-        ++number;
-        QTest::addRow("%s", format) << QString(format) << number;
-    }
+    QTest::newRow("ODOM") << 1;
+    QTest::newRow("NMEA DBT") << 2;
+    QTest::newRow("NMEA DBS") << 3;
+    QTest::newRow("ORVANDO") << 4;
+    QTest::newRow("DESO 25") << 5;
+    QTest::newRow("KESTROLA") << 6;
+    QTest::newRow("SONARMITE OLD") << 7;
+    QTest::newRow("SONARMITE NEW") << 8;
+    QTest::newRow("SONARMITE DUAL") << 9;
 }
 
 void OutputListsTest::aFormatIsSentByTheDevicesOwnNumber()
 {
-    QFETCH(QString, format);
     QFETCH(int, number);
+    const QString format = QTest::currentDataTag();
     ReadyBench bench(false, {}, at(9600, number == Odom ? Orvando : Odom));
     bench.choose("formatComboBox", format);
-    QCOMPARE(bench.takeCommands().join(' '), "*a" + QByteArray::number(number) + ".....");
+    QCOMPARE(bench.takeCommands().join(' '),
+             ("*a" + QByteArray::number(number)).leftJustified(8, '.'));
     QCOMPARE(bench.info(), "Setting Output Format to " + format + " ... Success");
     QCOMPARE(bench.device().settings().format, number);
     QVERIFY2(bench.showsConnected(), "the link is closed");

@@ -2,9 +2,12 @@
 // SPDX-License-Identifier: MIT
 
 #include "depthformats.h"
+#include "depthsentence.h"
+#include "infoform.h"
 #include "outputformat.h"
 #include "readybench.h"
 #include "settingspec.h"
+#include "toplevels.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -34,10 +37,14 @@ private slots:
 
     void aNumberIsSetByItsButtonsAndToldAnew_data();
     void aNumberIsSetByItsButtonsAndToldAnew();
+    void aNumberHasItsCaption_data() { aNumberIsSetByItsButtonsAndToldAnew_data(); }
+    void aNumberHasItsCaption();
+    void theHelpExplainsANumber_data() { aNumberIsSetByItsButtonsAndToldAnew_data(); }
+    void theHelpExplainsANumber();
     void everyOptionOfAWordIsOnTheForm_data();
     void everyOptionOfAWordIsOnTheForm();
-    void theSounderSpeaksEveryFormat_data();
-    void theSounderSpeaksEveryFormat();
+    void theSounderSpeaksEveryFormatAndIsRead_data();
+    void theSounderSpeaksEveryFormatAndIsRead();
 
 private:
     QWidget *shownIn(const QString &control);
@@ -111,6 +118,34 @@ void SettableSettingsTest::aNumberIsSetByItsButtonsAndToldAnew()
     QCOMPARE(shown->property("text").toString(), set); // as the sounder tells it
 }
 
+/// A screen reader takes a control's name and unit from the label whose buddy it is.
+void SettableSettingsTest::aNumberHasItsCaption()
+{
+    QFETCH(QString, control);
+    const auto *const label = bench->window.findChild<QLabel *>(control + "Label");
+    QVERIFY2(label, "The form has no caption for the number");
+    QVERIFY2(label->buddy(), "The caption names no control");
+    QVERIFY2(label->buddy()->objectName().startsWith(control),
+             qPrintable(label->buddy()->objectName()));
+}
+
+/// By a heading that reads as the caption. A slider has its own help, an edit that of its group.
+void SettableSettingsTest::theHelpExplainsANumber()
+{
+    QFETCH(QString, control);
+    QFETCH(QString, tab);
+    const auto *const label = bench->find<QLabel>(control + "Label");
+    const QString ofGroup = tab.isEmpty() ? "commonSettingsInfo" : tab + "InputsInfo";
+    const bool hasOwn = bench->window.findChild<QPushButton *>(control + "Info") != nullptr;
+    if (!tab.isEmpty()) {
+        bench->openTab(tab);
+    }
+    bench->click(hasOwn ? control + "Info" : ofGroup);
+    const QString help = topLevel<InfoForm>()->findChild<QLabel *>("text")->text();
+    const QString heading = label->text().section(" (", 0, 0) + "</h";
+    QVERIFY2(help.contains(heading), qPrintable("No heading \"" + heading + "\" in: " + help));
+}
+
 void SettableSettingsTest::everyOptionOfAWordIsOnTheForm_data()
 {
     QTest::addColumn<QStringList>("words");
@@ -134,7 +169,7 @@ void SettableSettingsTest::everyOptionOfAWordIsOnTheForm()
     }
 }
 
-void SettableSettingsTest::theSounderSpeaksEveryFormat_data()
+void SettableSettingsTest::theSounderSpeaksEveryFormatAndIsRead_data()
 {
     QTest::addColumn<int>("number");
     for (const OutputFormat &format : OutputFormats::all()) {
@@ -142,7 +177,7 @@ void SettableSettingsTest::theSounderSpeaksEveryFormat_data()
     }
 }
 
-void SettableSettingsTest::theSounderSpeaksEveryFormat()
+void SettableSettingsTest::theSounderSpeaksEveryFormatAndIsRead()
 {
     QFETCH(int, number);
     const QString name = QTest::currentDataTag();
@@ -157,7 +192,12 @@ void SettableSettingsTest::theSounderSpeaksEveryFormat()
     }
     QCOMPARE(bench->device().settings().format, number);
     const DepthPair both{1.23, 1.31};
-    QVERIFY2(!DepthFormats::lines(number, both).isEmpty(), "The sounder says nothing in it");
+    const QByteArrayList lines = DepthFormats::lines(number, both);
+    QVERIFY2(!lines.isEmpty(), "The sounder says nothing in it");
+    DepthSentence::Context context;
+    context.outputFormat = name;
+    const QString line = QString::fromLatin1(lines.first());
+    QCOMPARE(DepthSentence::read(line, context).high, 1.23F);
 }
 
 QTEST_MAIN(SettableSettingsTest)

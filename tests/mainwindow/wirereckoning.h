@@ -59,20 +59,21 @@ inline float wholeNumber(const QByteArray &text)
     return *end == '\0' ? static_cast<float>(number) : 0.0F;
 }
 
-inline const Rule *ruleOf(const QByteArray &key)
+/// A setting without a rule ends the test program with its key.
+inline const Rule &ruleOf(const QByteArray &key)
 {
     for (const Rule &rule : rules) {
         if (key.endsWith(rule.word)) {
-            return &rule;
+            return rule;
         }
     }
-    return nullptr;
+    qFatal("There is no rule for the setting \"%s\"", key.constData());
 }
 
 /// The value as the program keeps it, metric and within the range.
 inline float kept(const QByteArray &key, float shown, bool imperial)
 {
-    const Rule &rule = *ruleOf(key);
+    const Rule &rule = ruleOf(key);
     const bool converts = rule.unit == Unit::Metres || rule.unit == Unit::MetresPerSecond;
     const float metric =
         imperial && converts ? static_cast<float>(static_cast<double>(shown) / 3.28084) : shown;
@@ -122,7 +123,7 @@ inline QByteArray command(const QByteArray &key, const QByteArray &shown, bool i
                           float step = 0)
 {
     const float asked = std::strtof(shown.constData(), nullptr) + step;
-    const Rule &rule = *ruleOf(key);
+    const Rule &rule = ruleOf(key);
     char bare[32];
     std::snprintf(bare, sizeof bare, rule.form,
                   numberOnTheWire(rule.unit, kept(key, asked, imperial)));

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The TAL-VERO Connect developers
 // SPDX-License-Identifier: MIT
 
+#include "rowsmissing.h"
 #include "settings.h"
 
 #include <QtTest>
@@ -24,8 +25,11 @@ struct Number
     const char *why;
 };
 
+QSet<QString> keysWithRows;
+
 void addNumberRows(const QStringList &keys, std::initializer_list<Number> numbers)
 {
+    keysWithRows += QSet<QString>(keys.begin(), keys.end());
     for (const QString &key : keys) {
         for (const Number &number : numbers) {
             QTest::addRow("%s = \"%s\": %s", qPrintable(key), number.value, number.why)
@@ -207,6 +211,7 @@ void NumberRangesTest::aNumberIsHeldToItsRange_data()
     addChannelRealRows();
     addFrequencyRows();
     addSliderRows();
+    QCOMPARE(keysMissing(keysWithRows, isNumberSetting), QString());
 }
 
 void NumberRangesTest::aNumberIsHeldToItsRange()

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The TAL-VERO Connect developers
 // SPDX-License-Identifier: MIT
 
+#include "outputformat.h"
 #include "replyvalues.h"
 
 #include <QtTest>
@@ -16,8 +17,8 @@ private slots:
     void blankingAsAPositionOfItsSlider();
     void gainInPercent_data();
     void gainInPercent();
-    void formatAsAPlaceInTheList_data();
-    void formatAsAPlaceInTheList();
+    void formatByTheNumberAtTheFront_data();
+    void formatByTheNumberAtTheFront();
     void firstLetterOfAValue_data();
     void firstLetterOfAValue();
 };
@@ -125,37 +126,36 @@ void ReplyValuesTest::gainInPercent()
     QTEST(ReplyValues::gainPercent(QTest::currentDataTag()), "percent");
 }
 
-void ReplyValuesTest::formatAsAPlaceInTheList_data()
+void ReplyValuesTest::formatByTheNumberAtTheFront_data()
 {
-    QTest::addColumn<QChar>("number");
-    QTest::addColumn<int>("place");
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<QString>("name");
 
-    const auto row = [](const char *name, QChar number, int place) {
-        QTest::newRow(name) << number << place;
+    const auto row = [](const char *value, const char *name) {
+        QTest::addRow("\"%s\"", value) << QString(value) << QString(name);
     };
-    row("1, ODOM", '1', 4);
-    row("2, NMEA DBT", '2', 2);
-    row("3, NMEA DBS", '3', 1);
-    row("4, ORVANDO", '4', 0);
-    row("5, DESO 25", '5', 3);
-    row("6, KESTROLA", '6', 5);
-    row("7, SONARMITE OLD", '7', 6);
-    row("8, SONARMITE NEW", '8', 7);
-    row("9, SONARMITE DUAL", '9', 8);
-    row("0", '0', -1);
-    row("the character before 0", '/', -1);
-    row("the character behind 9", ':', -1);
-    row("a letter", 'O', -1);
-    row("a blank", ' ', -1);
-    row("an arabic 1", QChar(0x0661), -1);
-    row("a wide 1", QChar(0xFF11), -1);
-    row("none", QChar(), -1);
+    row("1", "ODOM");
+    row("2", "NMEA DBT");
+    row("3", "NMEA DBS");
+    row("4", "ORVANDO");
+    row("5", "DESO 25");
+    row("6", "KESTROLA");
+    row("7", "SONARMITE OLD");
+    row("8", "SONARMITE NEW");
+    row("9", "SONARMITE DUAL");
+    row("3 ", "NMEA DBS");
+    row("9x", "SONARMITE DUAL");
+    row("999999999999999999999", "SONARMITE DUAL"); // no number of a format is as long
+    for (const char *value : {"", "0", "01", "/", ":", "O", " 1", "-1", "\u0661", "\uff11"}) {
+        row(value, "");
+    }
 }
 
-void ReplyValuesTest::formatAsAPlaceInTheList()
+void ReplyValuesTest::formatByTheNumberAtTheFront()
 {
-    QFETCH(QChar, number);
-    QTEST(ReplyValues::formatPlace(number), "place");
+    QFETCH(QString, value);
+    const OutputFormat *format = ReplyValues::format(value);
+    QTEST(format ? format->name : QString(), "name");
 }
 
 void ReplyValuesTest::firstLetterOfAValue_data()

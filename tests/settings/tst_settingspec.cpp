@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The TAL-VERO Connect developers
 // SPDX-License-Identifier: MIT
 
-#include "settingspec.h"
+#include "rowsmissing.h"
 
 #include <QtTest>
 
@@ -124,9 +124,12 @@ constexpr NumberRow numberRows[] = {
 void SettingSpecTest::aNumberIsShownAndHeld_data()
 {
     QTest::addColumn<int>("row");
+    QSet<QString> keys;
     for (int row = 0; row < static_cast<int>(std::size(numberRows)); ++row) {
         QTest::newRow(numberRows[row].key) << row;
+        keys << numberRows[row].key;
     }
+    QCOMPARE(keysMissing(keys, isNumberSetting), QString());
 }
 
 void SettingSpecTest::aNumberIsShownAndHeld()

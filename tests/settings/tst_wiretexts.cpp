@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The TAL-VERO Connect developers
 // SPDX-License-Identifier: MIT
 
+#include "rowsmissing.h"
 #include "settings.h"
 
 #include <QtTest>
@@ -28,20 +29,31 @@ struct WireText
     const char *command;
 };
 
+/// The values of which the rows of the test at hand speak, by their settings.
+QMap<QString, QStringList> valuesWithRow;
+
 void addRows(const QStringList &keys, std::initializer_list<WireText> texts)
 {
     for (const QString &key : keys) {
         for (const WireText &text : texts) {
+            valuesWithRow[key] << text.value;
             QTest::addRow("%s = \"%s\"", qPrintable(key), text.value)
                 << key << QString(text.value) << QString(text.command);
         }
     }
 }
 
+QSet<QString> keysWithRow()
+{
+    const QStringList keys = valuesWithRow.keys();
+    return {keys.begin(), keys.end()};
+}
+
 } // namespace
 
 void WireTextsTest::aStoredValueGivesItsCommand_data()
 {
+    valuesWithRow.clear();
     QTest::addColumn<QString>("key");
     QTest::addColumn<QString>("value");
     QTest::addColumn<QString>("command");
@@ -121,6 +133,13 @@ void WireTextsTest::aStoredValueGivesItsCommand_data()
                            {"210", "*w0210"}});
     addRows({"lowFreq"},
             {{"30", "*w0030"}, {"33", "*w0033"}, {"35.9", "*w0035"}, {"36", "*w0036"}});
+    QCOMPARE(keysMissing(keysWithRow()), QString());
+    for (const SettingSpec &spec : SettingSpecs::all()) {
+        for (const QString &word : spec.words) {
+            QVERIFY2(valuesWithRow.value(spec.key).contains(word),
+                     qPrintable(spec.key + " has no row for " + word));
+        }
+    }
 }
 
 void WireTextsTest::aStoredValueGivesItsCommand()
@@ -134,6 +153,7 @@ void WireTextsTest::aStoredValueGivesItsCommand()
 
 void WireTextsTest::aSettingThatWasNeverSetGivesItsCommand_data()
 {
+    valuesWithRow.clear();
     QTest::addColumn<QString>("key");
     QTest::addColumn<QString>("value");
     QTest::addColumn<QString>("command");
@@ -153,6 +173,7 @@ void WireTextsTest::aSettingThatWasNeverSetGivesItsCommand_data()
     addRows({"highPulse", "lowPulse"}, {{"", "*p00"}});
     addRows({"highDetect", "lowDetect"}, {{"", "*t000"}});
     addRows({"highFreq", "lowFreq"}, {{"", "*w0000"}});
+    QCOMPARE(keysMissing(keysWithRow()), QString());
 }
 
 void WireTextsTest::aSettingThatWasNeverSetGivesItsCommand()

@@ -151,35 +151,38 @@ void TestDepthFormats::exactLines_data()
     const DepthPair low{{}, 1.31};
     const DepthPair none;
 
-    QTest::newRow("ODOM") << int(Odom) << both << List{" et B 00123 00131"};
-    QTest::newRow("ODOM, high only") << int(Odom) << high << List{" et B 00123 00000"};
-    QTest::newRow("ODOM, low only") << int(Odom) << low << List{" et B 00000 00131"};
-    QTest::newRow("ODOM, none") << int(Odom) << none << List{" et B 00000 00000"};
-    QTest::newRow("ODOM, 99.99 m")
-        << int(Odom) << DepthPair{99.99, 99.991} << List{" et B 09999 09999"};
-    QTest::newRow("ODOM, 100 m: out of reach")
+    QStringList namesWithoutRow = DepthFormats::names();
+    const auto row = [&namesWithoutRow](const QString &name) -> QTestData & {
+        namesWithoutRow.removeOne(name.section(',', 0, 0));
+        return QTest::newRow(qPrintable(name));
+    };
+    row("ODOM") << int(Odom) << both << List{" et B 00123 00131"};
+    row("ODOM, high only") << int(Odom) << high << List{" et B 00123 00000"};
+    row("ODOM, low only") << int(Odom) << low << List{" et B 00000 00131"};
+    row("ODOM, none") << int(Odom) << none << List{" et B 00000 00000"};
+    row("ODOM, 99.99 m") << int(Odom) << DepthPair{99.99, 99.991} << List{" et B 09999 09999"};
+    row("ODOM, 100 m: out of reach")
         << int(Odom) << DepthPair{99.996, 100.0} << List{" et B 00000 00000"};
-    QTest::newRow("ODOM, nonsense")
-        << int(Odom) << DepthPair{-0.5, qQNaN()} << List{" et B 00000 00000"};
-    QTest::newRow("NMEA DBT") << int(NmeaDbt) << both << List{"$SDDBT,4.04,f,1.23,M,0.67,F*37"};
-    QTest::newRow("NMEA DBT, none") << int(NmeaDbt) << none << List{"$SDDBT,,f,,M,,F*28"};
-    QTest::newRow("NMEA DBS") << int(NmeaDbs) << both << List{"$SDDBS,4.04,f,1.23,M,0.67,F*30"};
-    QTest::newRow("ORVANDO") << int(Orvando) << both << List{"B 00123 00131 ,"};
-    QTest::newRow("ORVANDO, high only") << int(Orvando) << high << List{"B 00123 00000 ,"};
-    QTest::newRow("DESO 25") << int(Deso25) << both << List{"DA00001.23 m", "DB00001.31 m"};
-    QTest::newRow("DESO 25, high only") << int(Deso25) << high << List{"DA00001.23 m"};
-    QTest::newRow("DESO 25, low only") << int(Deso25) << low << List{"DB00001.31 m"};
-    QTest::newRow("DESO 25, none") << int(Deso25) << none << List{};
-    QTest::newRow("KESTROLA") << int(Kestrola) << both << List{"00131T-94L\t00123T-95H"};
-    QTest::newRow("KESTROLA, high only") << int(Kestrola) << high << List{"00123T-95H"};
-    QTest::newRow("KESTROLA, low only") << int(Kestrola) << low << List{"00131T-94L"};
-    QTest::newRow("KESTROLA, none") << int(Kestrola) << none << List{};
-    QTest::newRow("SONARMITE OLD") << int(SonarmiteOld) << both << List{"0 1.23 12.4 78"};
-    QTest::newRow("SONARMITE NEW") << int(SonarmiteNew) << both << List{"0 1.23 12.4 78"};
-    QTest::newRow("SONARMITE NEW, none") << int(SonarmiteNew) << none << List{"0 0.00 12.4 0"};
-    QTest::newRow("SONARMITE DUAL") << int(SonarmiteDual) << both << List{"0 1.23 1.31 78"};
-    QTest::newRow("SONARMITE DUAL, low only")
-        << int(SonarmiteDual) << low << List{"0 0.00 1.31 78"};
+    row("ODOM, nonsense") << int(Odom) << DepthPair{-0.5, qQNaN()} << List{" et B 00000 00000"};
+    row("NMEA DBT") << int(NmeaDbt) << both << List{"$SDDBT,4.04,f,1.23,M,0.67,F*37"};
+    row("NMEA DBT, none") << int(NmeaDbt) << none << List{"$SDDBT,,f,,M,,F*28"};
+    row("NMEA DBS") << int(NmeaDbs) << both << List{"$SDDBS,4.04,f,1.23,M,0.67,F*30"};
+    row("ORVANDO") << int(Orvando) << both << List{"B 00123 00131 ,"};
+    row("ORVANDO, high only") << int(Orvando) << high << List{"B 00123 00000 ,"};
+    row("DESO 25") << int(Deso25) << both << List{"DA00001.23 m", "DB00001.31 m"};
+    row("DESO 25, high only") << int(Deso25) << high << List{"DA00001.23 m"};
+    row("DESO 25, low only") << int(Deso25) << low << List{"DB00001.31 m"};
+    row("DESO 25, none") << int(Deso25) << none << List{};
+    row("KESTROLA") << int(Kestrola) << both << List{"00131T-94L\t00123T-95H"};
+    row("KESTROLA, high only") << int(Kestrola) << high << List{"00123T-95H"};
+    row("KESTROLA, low only") << int(Kestrola) << low << List{"00131T-94L"};
+    row("KESTROLA, none") << int(Kestrola) << none << List{};
+    row("SONARMITE OLD") << int(SonarmiteOld) << both << List{"0 1.23 12.4 78"};
+    row("SONARMITE NEW") << int(SonarmiteNew) << both << List{"0 1.23 12.4 78"};
+    row("SONARMITE NEW, none") << int(SonarmiteNew) << none << List{"0 0.00 12.4 0"};
+    row("SONARMITE DUAL") << int(SonarmiteDual) << both << List{"0 1.23 1.31 78"};
+    row("SONARMITE DUAL, low only") << int(SonarmiteDual) << low << List{"0 0.00 1.31 78"};
+    QCOMPARE(namesWithoutRow.join(", "), QString());
 }
 
 void TestDepthFormats::exactLines()

@@ -142,11 +142,10 @@ void TestSoundings::newFormatBeginsWithTheVeryNextSounding_data()
 {
     QTest::addColumn<int>("from");
     QTest::addColumn<int>("to");
-    for (int from = Odom; from <= SonarmiteDual; ++from) {
-        for (int to = Odom; to <= SonarmiteDual; ++to) {
-            QTest::addRow("from %s to %s", qPrintable(DepthFormats::names().at(from - 1)),
-                          qPrintable(DepthFormats::names().at(to - 1)))
-                << from << to;
+    for (const QString &from : DepthFormats::names()) {
+        for (const QString &to : DepthFormats::names()) {
+            QTest::addRow("from %s to %s", qPrintable(from), qPrintable(to))
+                << DepthFormats::number(from) << DepthFormats::number(to);
         }
     }
 }
