@@ -57,7 +57,8 @@ struct Stretch
     double to;
 };
 
-/// The part of a stretch that lies within an image of this size, as shares of its own length.
+/// Cuts off what lies outside 0 to `size`. Both ends are reckoned as shares of the stretch's
+/// length, as a painter does it: another way would round differently, and a pixel could differ.
 Stretch cutByShare(const Stretch &stretch, int size)
 {
     const auto within = [size](double x) { return x >= 0.0 && x <= size; };
@@ -114,7 +115,8 @@ class DotRowInks
 public:
     DotRowInks(const DotExtent &itsColumns, int height, QRgb colour)
         : columns(itsColumns)
-        // A painter counts both parts of a single pixel from its far sides.
+        // A dot that lies within one column covers it from both sides: a painter adds the two
+        // parts.
         , left(colour,
                dotCoverage(height, columns.first == columns.last ? columns.ofFirst + columns.ofLast
                                                                  : columns.ofFirst))
