@@ -5,7 +5,6 @@
 #define FORMBENCH_H
 
 #include "myproxystyle.h"
-#include "resources.h"
 #include "ui_mainwindow.h"
 
 #include <QMainWindow>
@@ -19,11 +18,7 @@
 class FormBench
 {
 public:
-    FormBench()
-    {
-        useTalVeroResources();
-        ui.setupUi(&window);
-    }
+    FormBench();
 
     /// Fails the running test, and says so, where the form has no such object.
     template <typename Kind = QWidget>
