@@ -23,8 +23,8 @@ constexpr int lowTab = 1;
 /// A sea bed with depths on both channels from the first ping on, and mud that tells them apart.
 constexpr quint32 livelySeabed = 1010;
 
-/// Lists have no title.
-constexpr char openList[] = "";
+/// Lists and tooltips have no title.
+constexpr char untitled[] = "";
 
 /// The size in which the window opens, the one that the form is drawn for, a small laptop's, and a
 /// maximised window's.
@@ -39,8 +39,9 @@ struct Scene
     Extent extent = StartSize;
     SounderFit fit = SounderFit::Dual;
     SounderFaults faults = {};
-    const char *title = nullptr; ///< of the window to show; the main window if null
-    bool soundings = true;       ///< whether the sounder sends depths of its own accord
+    const char *title = nullptr;  ///< of the window to show; the main window if null
+    bool soundings = true;        ///< whether the sounder sends depths of its own accord
+    const char *button = nullptr; ///< what opens the message box to show, if it is one
 };
 
 bool offline(PictureDesk & /*desk*/) { return true; }
@@ -136,6 +137,22 @@ bool listOpen(PictureDesk &desk)
     return desk.connectToSounder() && desk.openList("formatComboBox");
 }
 
+/// What an operator reads who lets the pointer rest on a control.
+std::function<bool(PictureDesk &)> tooltip(const char *control)
+{
+    return [control](PictureDesk &desk) { return sounding(desk) && desk.pointAt(control); };
+}
+
+/// Where the keyboard is.
+bool focusRing(PictureDesk &desk) { return sounding(desk) && desk.tabTo("highAutoRadio"); }
+
+bool portGone(PictureDesk &desk)
+{
+    desk.choosePort();
+    desk.pullTheCable();
+    return true;
+}
+
 std::function<bool(PictureDesk &)> help(const char *button)
 {
     return [button](PictureDesk &desk) {
@@ -172,7 +189,12 @@ std::vector<Scene> allScenes()
         {"graph-metres", graph, OwnSize, SounderFit::Dual, {}, "Depth Graph", false},
         {"graph-feet", graphInFeet, OwnSize, SounderFit::Dual, {}, "Depth Graph", false},
         {"help-short", help("highEnableInfo"), OwnSize, SounderFit::Dual, {}, "Information"},
-        {"list-open", listOpen, OwnSize, SounderFit::Dual, {}, openList},
+        {"list-open", listOpen, OwnSize, SounderFit::Dual, {}, untitled},
+        {"focus-ring", focusRing},
+        {"tooltip-range", tooltip("highDraft"), OwnSize, SounderFit::Dual, {}, untitled},
+        {"tooltip-locked", tooltip("highGainUp"), OwnSize, SounderFit::Dual, {}, untitled},
+        {"box-reset", sounding, OwnSize, SounderFit::Dual, {}, nullptr, true, "resetSettings"},
+        {"box-port", portGone, OwnSize, SounderFit::Dual, {}, nullptr, true, "connectToDevice"},
         {"help-long", help("commonSettingsInfo"), OwnSize, SounderFit::Dual, {}, "Information"},
     };
 }
@@ -235,6 +257,11 @@ bool take(const Scene &scene, const QDir &folder, PictureChoice choice)
     bool good = scene.arrange(desk);
     if (!good) {
         QTextStream(stderr) << scene.name << ": waited in vain\n";
+    }
+    if (scene.button != nullptr) {
+        bool saved = false;
+        const auto look = [&](QWidget &box) { saved = save(&box, folder, scene.name); };
+        return good && desk.clickForBox(scene.button, look) && saved;
     }
     if (scene.extent == OwnSize) {
         QCoreApplication::processEvents();

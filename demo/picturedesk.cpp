@@ -9,6 +9,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QTabWidget>
+#include <QTimer>
+#include <QWindow>
 #include <QtTest>
 
 namespace {
@@ -18,6 +20,9 @@ constexpr int patienceMs = 20000;
 /// What the graph is given for a depth that the sounder did not find.
 constexpr float noDepth = -1.0F;
 
+/// Lists and tooltips have no title.
+constexpr char untitled[] = "";
+
 } // namespace
 
 PictureDesk::PictureDesk(const SounderOptions &options)
@@ -26,7 +31,8 @@ PictureDesk::PictureDesk(const SounderOptions &options)
     , window([this] { return QStringList(sounder.portPath()); })
 {
     window.show();
-    if (!sounder.isOpen() || !QTest::qWaitForWindowExposed(&window)) {
+    window.activateWindow(); // else there are neither tooltips nor a focus
+    if (!sounder.isOpen() || !QTest::qWaitForWindowActive(&window)) {
         qFatal("No pseudo-terminal, or no window");
     }
 }
@@ -41,10 +47,15 @@ Widget *PictureDesk::find(const char *name)
     return widget;
 }
 
-void PictureDesk::pressConnect(const char *rate)
+void PictureDesk::choosePort(const char *rate)
 {
     choose("portComboBox", qPrintable(sounder.portPath()));
     choose("baudComboBox", rate);
+}
+
+void PictureDesk::pressConnect(const char *rate)
+{
+    choosePort(rate);
     click("connectToDevice");
 }
 
@@ -63,6 +74,41 @@ void PictureDesk::click(const char *name)
     constexpr int insideIndicator = 12; // a radio button answers at its left end
     QTest::mouseClick(widget, Qt::LeftButton, {}, QPoint(insideIndicator, widget->height() / 2));
     window.setFocus(); // no picture depends on what was pressed last
+}
+
+bool PictureDesk::clickForBox(const char *name, const std::function<void(QWidget &)> &look)
+{
+    bool came = false;
+    QTimer glance; // a box holds up the click that opened it
+    QObject::connect(&glance, &QTimer::timeout, &glance, [&] {
+        QWidget *const box = QApplication::activeModalWidget();
+        if (box != nullptr && box->windowHandle() != nullptr && box->windowHandle()->isExposed()) {
+            came = true;
+            look(*box);
+            box->close();
+        }
+    });
+    constexpr int glanceMs = 20;
+    glance.start(glanceMs);
+    click(name);
+    return came || QTest::qWaitFor([&came] { return came; }, patienceMs);
+}
+
+bool PictureDesk::pointAt(const char *name)
+{
+    auto *const widget = find<QWidget>(name);
+    QTest::mouseMove(widget);
+    return QTest::qWaitFor([] { return popup(untitled) != nullptr; }, patienceMs);
+}
+
+bool PictureDesk::tabTo(const char *name)
+{
+    constexpr int stopsOfTheForm = 120;
+    const auto *const widget = find<QWidget>(name);
+    for (int i = 0; i < stopsOfTheForm && !widget->hasFocus(); ++i) {
+        QTest::keyClick(window.windowHandle(), Qt::Key_Tab);
+    }
+    return widget->hasFocus();
 }
 
 void PictureDesk::type(const char *edit, const char *text)

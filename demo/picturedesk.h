@@ -7,6 +7,8 @@
 #include "mainwindow.h"
 #include "ptysounder.h"
 
+#include <functional>
+
 /// The program's window beside a simulated sounder, set up for one picture. Every request that
 /// waits answers whether what it waited for has come.
 class PictureDesk
@@ -16,13 +18,29 @@ public:
 
     MainWindow &mainWindow() { return window; }
 
-    /// Chooses the sounder's port and this rate and presses Connect.
+    /// Chooses the sounder's port and this rate.
+    void choosePort(const char *rate = "9600");
+
+    /// The same, and presses Connect.
     void pressConnect(const char *rate = "9600");
 
     /// Connects, and waits until the window has everything that the sounder tells.
     bool connectToSounder();
 
     void click(const char *name);
+
+    /// Clicks what opens a message box; `look` sees the box before it is closed without an answer.
+    /// Answers whether there was one.
+    bool clickForBox(const char *name, const std::function<void(QWidget &)> &look);
+
+    /// Rests the pointer on a control until its tooltip is there.
+    bool pointAt(const char *name);
+
+    /// Goes on by the Tab key until this control has the keyboard.
+    bool tabTo(const char *name);
+
+    /// Nothing is left of the sounder's line.
+    void pullTheCable() { sounder.hangUp(); }
 
     /// Types over what stands in the edit, without Return.
     void type(const char *edit, const char *text);

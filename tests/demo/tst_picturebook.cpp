@@ -36,7 +36,8 @@ void tst_PictureBook::picturesTellStateSizeAndScaleByTheirNames()
     }
     QVERIFY(QImage(pictures.filePath("offline-1136x800-1x.png")) !=
             QImage(pictures.filePath("dual-1136x800-1x.png")));
-    for (const char *other : {"graph-metres", "graph-feet", "help-short", "help-long"}) {
+    for (const char *other : {"graph-metres", "graph-feet", "help-short", "help-long",
+                              "tooltip-range", "tooltip-locked", "box-reset", "box-port"}) {
         const QStringList found = pictures.entryList({QString(other) + "-*-1x.png"});
         QVERIFY2(found.size() == 1, other);
     }
