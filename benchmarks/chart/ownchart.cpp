@@ -119,23 +119,55 @@ public:
     }
 };
 
-/// The program's drawing, shown nowhere.
+using Drawing = void (*)(QImage &canvas, const DepthChartData &chart);
+
+/// A drawing that is shown nowhere, on a canvas that is kept.
 class DrawingAlone : public ChartUnderTest
 {
 public:
-    DrawingAlone(const QSize &size, const ChartScene &scene)
+    DrawingAlone(const QSize &size, const ChartScene &scene, Drawing itsDrawing)
         : chart(scene.chart())
         , canvas(size, QImage::Format_RGB32)
+        , drawing(itsDrawing)
     {}
 
     void takeDepths(const ChartScene &scene) override { chart = scene.chart(); }
-    void redraw() override { drawDepthChart(canvas, chart); }
+    void redraw() override { drawing(canvas, chart); }
     QImage picture() override { return canvas; }
 
 private:
     DepthChartData chart;
     QImage canvas;
+    Drawing drawing;
 };
+
+void drawOurs(QImage &canvas, const DepthChartData &chart) { drawDepthChart(canvas, chart); }
+
+/// As for a screen of 200 %.
+void drawOursDense(QImage &canvas, const DepthChartData &chart)
+{
+    canvas.setDevicePixelRatio(2.0);
+    drawDepthChart(canvas, chart);
+}
+
+void drawByPainter(QImage &canvas, const DepthChartData &chart) { drawPlainChart(canvas, chart); }
+
+void drawByPainterDense(QImage &canvas, const DepthChartData &chart)
+{
+    drawPlainChart(canvas, chart, 2.0);
+}
+
+void drawBatched(QImage &canvas, const DepthChartData &chart)
+{
+    drawPlainChart(canvas, chart, 1.0, StrokeOrder::Batched);
+}
+
+ChartMaker alone(const char *name, Drawing drawing)
+{
+    return {name, [drawing](const QSize &size, const ChartScene &scene) {
+                return std::make_unique<DrawingAlone>(size, scene, drawing);
+            }};
+}
 
 template <typename Chart>
 std::unique_ptr<ChartUnderTest> make(const QSize &size, const ChartScene &scene)
@@ -148,7 +180,11 @@ std::unique_ptr<ChartUnderTest> make(const QSize &size, const ChartScene &scene)
 std::vector<ChartMaker> ownChartMakers()
 {
     return {{"product", make<WindowChart>},
-            {"product, drawing alone", make<DrawingAlone>},
+            alone("product, drawing alone", drawOurs),
+            alone("painter, drawing alone", drawByPainter),
+            alone("painter batched, drawing alone", drawBatched),
+            alone("product, drawing alone at 2x", drawOursDense),
+            alone("painter, drawing alone at 2x", drawByPainterDense),
             {"literal", make<PlainChart>},
             {"floor", make<WhitePicture>}};
 }

@@ -13,7 +13,15 @@ struct DotExtent;
 /// Draws the strokes of the strip chart straight into the pixels of an image: upright or lying, of
 /// one opaque colour, antialiased. Every pixel becomes what QPainter's antialiasing makes of the
 /// same stroke; a chart has thousands of them, and a painter spends most of its time preparing
-/// each.
+/// each. One drawing of 768 pings of both channels on 1920 x 1000 pixels, median of the processor
+/// time in ms (`scripts/benchmark chart --time processor`, Qt 5.15.8):
+///
+///                                        rolling bed    long connectors
+///     QPainter, stroke by stroke             6.0             37.0
+///     QPainter, a colour in one call         4.2             34.3   (and another order of strokes)
+///     this                                   1.6              4.0
+///     QPainter at a ratio of 2               9.2            166.7
+///     this at a ratio of 2                   1.6              7.2
 ///
 /// All coordinates are the image's, in pixels, y downwards; what lies outside is cut off. The image
 /// is opaque, of the format RGB32 or ARGB32, with less than 32,767 pixels a side; it shares its

@@ -41,6 +41,52 @@ void plainSamples(QPainter &painter, const DepthChartData &chart, double yScale,
     }
 }
 
+/// All strokes of one colour and width.
+struct Batch
+{
+    QPen pen;
+    QVector<QPointF> points;
+    QVector<QLine> lines;
+};
+
+void drawBatch(QPainter &painter, const Batch &batch)
+{
+    painter.setPen(batch.pen);
+    painter.drawLines(batch.lines);
+    painter.drawPoints(batch.points.constData(), batch.points.size());
+}
+
+void batchedSamples(QPainter &painter, const DepthChartData &chart, double yScale, double xStep,
+                    double ratio)
+{
+    const double unit = double(chart.unitFactor);
+    Batch below{strokePen(QColor(64, 192, 255), ratio), {}, {}};
+    Batch above{strokePen(QColor(255, 192, 192), ratio), {}, {}};
+    Batch hfDots{strokePen(QColor(0, 0, 255), 3.0 * ratio), {}, {}};
+    Batch lfDots{strokePen(QColor(255, 0, 0), 3.0 * ratio), {}, {}};
+    for (int i = 0; i < chart.samples.size(); ++i) {
+        const DepthSample sample = chart.samples.at(i);
+        const double x = i * xStep;
+        const double hfY = double(sample.hf) * yScale * unit;
+        const double lfY = double(sample.lf) * yScale * unit;
+        const bool hasHf = sample.hf != DepthChartData::noDepth;
+        const bool hasLf = sample.lf != DepthChartData::noDepth;
+        if (hasHf) {
+            hfDots.points.append({x, hfY});
+        }
+        if (hasLf) {
+            lfDots.points.append({x, lfY});
+        }
+        if (hasHf && hasLf && sample.hf != 0.0F && sample.lf != 0.0F) {
+            (sample.lf > sample.hf ? below : above)
+                .lines.append({int(x), int(hfY), int(x), int(lfY)});
+        }
+    }
+    for (const Batch &batch : {below, above, hfDots, lfDots}) {
+        drawBatch(painter, batch);
+    }
+}
+
 double plainStep(int graphRange)
 {
     const double s = (graphRange * 1.1) / 6;
@@ -68,6 +114,13 @@ void plainScale(QPainter &painter, const DepthChartData &chart, double yScale, d
 QImage plainChart(const QSize &size, const DepthChartData &chart, double ratio)
 {
     QImage canvas(size, QImage::Format_ARGB32);
+    drawPlainChart(canvas, chart, ratio);
+    return canvas;
+}
+
+void drawPlainChart(QImage &canvas, const DepthChartData &chart, double ratio, StrokeOrder order)
+{
+    const QSize size = canvas.size();
     canvas.fill(Qt::white);
     const double h = size.height();
     const double range = double(float(chart.graphRange) * chart.unitFactor);
@@ -76,7 +129,8 @@ QImage plainChart(const QSize &size, const DepthChartData &chart, double ratio)
     painter.setRenderHint(QPainter::Antialiasing, true);
     painter.translate(size.width(), h * 0.05);
     painter.scale(-1, 1);
-    plainSamples(painter, chart, (h * 0.9) / range, double(size.width()) / 768, ratio);
+    const auto samples = order == StrokeOrder::Batched ? batchedSamples : plainSamples;
+    samples(painter, chart, (h * 0.9) / range, double(size.width()) / 768, ratio);
 
     painter.translate(size.width(), 0);
     painter.scale(-1, 1);
@@ -92,5 +146,4 @@ QImage plainChart(const QSize &size, const DepthChartData &chart, double ratio)
     painter.setPen(dashed);
     const double y = chart.maxDepthLine * yScale * double(chart.unitFactor);
     painter.drawLine(QPointF(0, y), QPointF(w, y));
-    return canvas;
 }

@@ -13,4 +13,15 @@ struct DepthChartData;
 /// large.
 QImage plainChart(const QSize &size, const DepthChartData &chart, double ratio = 1.0);
 
+/// In which order a plain painter draws the strokes.
+enum class StrokeOrder {
+    PingByPing, ///< as they must lie upon each other
+    Batched,    ///< all of a colour at once: as quick as a painter gets, but pings cover each other
+                ///< otherwise
+};
+
+/// The same over an opaque canvas, whose device pixel ratio must be 1.
+void drawPlainChart(QImage &canvas, const DepthChartData &chart, double ratio = 1.0,
+                    StrokeOrder order = StrokeOrder::PingByPing);
+
 #endif // PLAINCHART_H
