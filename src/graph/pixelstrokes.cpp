@@ -274,7 +274,8 @@ void PixelStrokes::dot(const DotColumn &column, double y, QRgb colour)
 
 void PixelStrokes::rectangle(const DotExtent &columns, const DotExtent &rows, QRgb colour)
 {
-    if (rows.isEmpty() || columns.isEmpty()) {
+    const bool isInBand = rows.first < rowsEnd && rows.last >= rowsBegin;
+    if (!isInBand || rows.isEmpty() || columns.isEmpty()) {
         return;
     }
     const auto inkRow = [&](int at, const DotRowInks &inks) {

@@ -17,11 +17,11 @@ struct DotExtent;
 /// time in ms (`scripts/benchmark chart --time processor`, Qt 5.15.8):
 ///
 ///                                        rolling bed    long connectors
-///     QPainter, stroke by stroke             6.0             37.0
-///     QPainter, a colour in one call         4.2             34.3   (and another order of strokes)
-///     this                                   1.6              4.0
-///     QPainter at a ratio of 2               9.2            166.7
-///     this at a ratio of 2                   1.6              7.2
+///     QPainter, stroke by stroke             5.4             35.1
+///     QPainter, a colour in one call         3.8             33.6   (and another order of strokes)
+///     this                                   1.3              3.2
+///     QPainter at a ratio of 2               8.6            160.0
+///     this at a ratio of 2                   1.4              6.4
 ///
 /// All coordinates are the image's, in pixels, y downwards; what lies outside is cut off. The image
 /// is opaque, of the format RGB32 or ARGB32, with less than 32,767 pixels a side; it shares its
