@@ -27,4 +27,19 @@ function(talvero_library name)
   target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR} PRIVATE ${CMAKE_CURRENT_BINARY_DIR})
   target_link_libraries(${name} PUBLIC ${arg_LINK} PRIVATE talvero_warnings)
   talvero_use_precompiled(${name} talvero_core_headers talvero_widget_headers ${arg_LINK})
+  talvero_skip_without_terminal(skipped ${name} ${arg_LINK})
+endfunction()
+
+# Whatever needs a pseudo-terminal links this; nothing else decides what is left out on Windows.
+add_library(talvero_terminal INTERFACE)
+
+# talvero_skip_without_terminal(VARIABLE TARGET libraries...): sets VARIABLE, and keeps the target from being
+# built, where it reaches talvero_terminal and the system has no pseudo-terminals.
+function(talvero_skip_without_terminal variable target)
+  talvero_reaches(skipped talvero_terminal ${ARGN})
+  if(UNIX)
+    set(skipped FALSE)
+  endif()
+  set_target_properties(${target} PROPERTIES EXCLUDE_FROM_ALL ${skipped})
+  set(${variable} ${skipped} PARENT_SCOPE)
 endfunction()

@@ -14,22 +14,28 @@ function(talvero_precompiled name)
   target_precompile_headers(${name} PRIVATE ${arg_UNPARSED_ARGUMENTS})
 endfunction()
 
-# talvero_knows_widgets(VARIABLE libraries...): whether one of them is, or is made with, Qt Widgets.
-function(talvero_knows_widgets variable)
+# talvero_reaches(VARIABLE GOAL libraries...): whether one of them is, or is made with, the library GOAL.
+function(talvero_reaches variable goal)
   set(${variable} FALSE PARENT_SCOPE)
   foreach(library ${ARGN})
-    if(library STREQUAL "Qt5::Widgets")
+    if(library STREQUAL goal)
       set(${variable} TRUE PARENT_SCOPE)
       return()
     elseif(library MATCHES "^talvero_" AND TARGET ${library})
       get_target_property(known ${library} INTERFACE_LINK_LIBRARIES)
-      talvero_knows_widgets(knows ${known})
-      if(knows)
+      talvero_reaches(reaches ${goal} ${known})
+      if(reaches)
         set(${variable} TRUE PARENT_SCOPE)
         return()
       endif()
     endif()
   endforeach()
+endfunction()
+
+# talvero_knows_widgets(VARIABLE libraries...): whether one of them is, or is made with, Qt Widgets.
+function(talvero_knows_widgets variable)
+  talvero_reaches(knows Qt5::Widgets ${ARGN})
+  set(${variable} ${knows} PARENT_SCOPE)
 endfunction()
 
 # talvero_use_precompiled(TARGET PLAIN DRAWING libraries...): the collection DRAWING where one of the

@@ -21,7 +21,8 @@ foreach(headers talvero_test_headers talvero_widget_test_headers)
 endforeach()
 
 # talvero_add_test(NAME [LINK libraries...] [LABEL label] [TIMEOUT seconds])
-# One test program from NAME.cpp.
+# One test program from NAME.cpp. One that needs a pseudo-terminal, by what it links, is left out where the
+# system has none (talvero_skip_without_terminal).
 function(talvero_add_test name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "LABEL;TIMEOUT" "LINK")
   if(NOT arg_TIMEOUT)
@@ -42,6 +43,10 @@ function(talvero_add_test name)
   target_compile_options(${name} PRIVATE ${talvero_test_options})
   target_link_options(${name} PRIVATE ${talvero_test_link_options})
   talvero_use_precompiled(${name} talvero_test_headers talvero_widget_test_headers ${arg_LINK})
+  talvero_skip_without_terminal(skipped ${name} ${arg_LINK})
+  if(skipped)
+    return()
+  endif()
   add_test(NAME ${name} COMMAND ${name})
   set_tests_properties(${name} PROPERTIES
     LABELS ${arg_LABEL}
@@ -55,6 +60,9 @@ function(talvero_add_dense_run name program)
   cmake_parse_arguments(PARSE_ARGV 2 arg "" "SCALE" "")
   if(NOT arg_SCALE)
     set(arg_SCALE 2)
+  endif()
+  if(NOT TEST ${program})
+    return()
   endif()
   add_test(NAME ${name} COMMAND ${program} ${arg_UNPARSED_ARGUMENTS})
   get_filename_component(label ${CMAKE_CURRENT_SOURCE_DIR} NAME)

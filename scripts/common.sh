@@ -2,6 +2,19 @@
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
+# fail WORDS...: ends the script and says why.
+fail() {
+    echo "$(basename "$0"): $*" >&2
+    exit 1
+}
+
+# help_if_asked "$@": for --help prints the comment at the top of the script that is run, and ends it.
+help_if_asked() {
+    [ "${1:-}" = --help ] || return 0
+    sed -n '2,/^[^#]/{s/^# \{0,1\}//p}' "$0"
+    exit 0
+}
+
 # install_missing PACKAGE...: installs those that this Debian or Ubuntu machine lacks.
 install_missing() {
     local missing=() package
@@ -24,6 +37,10 @@ build_packages=(g++ cmake ninja-build qtbase5-dev libqt5serialport5-dev fonts-de
 # What the tests need besides: a locale that writes "0,5" (made from `locales`), and what stands between
 # the program and a screen reader.
 test_packages=(locales at-spi2-core dbus gir1.2-atspi-2.0 python3-gi xdotool xvfb)
+
+# What cross-building for Windows, running there and packing need; the fonts stand in for Windows' own.
+windows_packages=(cmake ninja-build g++-mingw-w64-x86-64-posix wine wine64 fonts-wine fonts-dejavu-core nsis zip
+    unzip xz-utils socat xvfb xauth xdotool)
 
 # configure PRESET [cmake options...]
 configure() {
