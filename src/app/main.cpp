@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: MIT
 
 #include "appearance.h"
+#include "logfile.h"
 #include "mainwindow.h"
 #include "screenfit.h"
 
 #include <QApplication>
+#include <QMessageBox>
 
 int main(int argc, char **argv)
 {
@@ -13,6 +15,10 @@ int main(int argc, char **argv)
     startWithoutOpenGl();
     QApplication application(argc, argv);
     giveProgramStyle();
+    const LogFile log(wantedLogFile(QApplication::arguments()));
+    if (!log.problem().isEmpty()) {
+        QMessageBox::warning(nullptr, QStringLiteral("TAL-VERO Connect"), log.problem());
+    }
     MainWindow window;
     fitToScreen(window);
     window.show();
