@@ -50,7 +50,7 @@ open_kit() {
 # use_wine PREFIX: makes a place for Wine there, unless one is, with a font that its own stand-in for Windows'
 # lacks, and COM ports that lead to what tests link in $windows_ports. Nothing is shown on a display.
 use_wine() {
-    export WINEPREFIX=$1 WINEDEBUG=-all WINEDLLOVERRIDES="mscoree=d;mshtml=d"
+    export WINEPREFIX=$1 WINEDEBUG=-all WINEDLLOVERRIDES="mscoree=d;mshtml=d;winemenubuilder.exe=d"
     unset DISPLAY
     [ ! -e "$WINEPREFIX/talvero-ready" ] || return 0
     local number
