@@ -16,11 +16,21 @@ int patternLength(ReceiveBuffer::LineEnd lineEnd)
     return static_cast<int>(patterns[lineEnd].size());
 }
 
+/// Memory that an empty buffer may keep for the next arrival.
+constexpr int keptCapacity = 64 * 1024;
+
 bool isLineEndByte(char byte) { return byte == '\r' || byte == '\n'; }
 
 } // namespace
 
-void ReceiveBuffer::append(const QByteArray &received) { bytes.append(received); }
+int ReceiveBuffer::append(const QByteArray &received)
+{
+    bytes.append(received);
+    if (dropsTheLine) {
+        return dropThroughLineEnd(head);
+    }
+    return size() > mostBytes ? dropThroughLineEnd(head + size() - mostBytes) : 0;
+}
 
 std::optional<QString> ReceiveBuffer::takeLine(LineEnd lineEnd)
 {
@@ -43,7 +53,24 @@ void ReceiveBuffer::clear()
 {
     bytes.clear();
     head = 0;
+    dropsTheLine = false;
     searches = {};
+}
+
+/// Drops what waits before `from` and on through the first byte of a line end. (What such a byte
+/// leaves of a pair does not begin a line.)
+int ReceiveBuffer::dropThroughLineEnd(int from)
+{
+    const char *const lineEnd =
+        std::find_if(bytes.constData() + from, bytes.constData() + bytes.size(), isLineEndByte);
+    const auto end = static_cast<int>(lineEnd - bytes.constData());
+    work += end - from;
+    dropsTheLine = end == bytes.size();
+    const int before = size();
+    head = dropsTheLine ? end : end + 1;
+    const int dropped = before - size();
+    compact();
+    return dropped;
 }
 
 /// The index into `bytes` of the first such line end from `head` on; -1 when there is none. What
@@ -85,4 +112,14 @@ void ReceiveBuffer::compact()
         search.position = std::max(0, search.position - head);
     }
     head = 0;
+    giveBackMemory();
+}
+
+/// Only where little of much is used, so that a backlog does not move at each line taken.
+void ReceiveBuffer::giveBackMemory()
+{
+    if (bytes.capacity() > keptCapacity && bytes.size() < bytes.capacity() / 4) {
+        work += bytes.size();
+        bytes.squeeze();
+    }
 }

@@ -13,10 +13,15 @@
 /// The characters received and not yet cut into lines.
 ///
 /// Its cost follows the bytes that arrive, whatever they are: each byte is searched once for each
-/// kind of line end, however long its line grows, and taking a line does not move the backlog.
+/// kind of line end, however long its line grows, and taking a line does not move the backlog. Its
+/// memory follows what waits, which has a bound: an adapter that ignores its rate may bring more
+/// than is ever taken.
 class ReceiveBuffer
 {
 public:
+    /// The bytes that wait at most. A sounder at 115200 needs 24 minutes for them.
+    static constexpr int mostBytes = 16 * 1024 * 1024;
+
     /// How a line can end: "\r\n", "\r" or "\n".
     enum LineEnd { CarriageReturnLineFeed, CarriageReturn, LineFeed };
 
@@ -25,8 +30,10 @@ public:
     static constexpr std::array<LineEnd, 3> lineEnds{CarriageReturnLineFeed, CarriageReturn,
                                                      LineFeed};
 
-    /// Adds what has arrived, as it came.
-    void append(const QByteArray &received);
+    /// Adds what has arrived, as it came. What then waits beyond `mostBytes` is dropped, the oldest
+    /// first, and with it all up to the end of the line that it falls into, even if that end is
+    /// still to come. Returns the number of bytes dropped.
+    int append(const QByteArray &received);
 
     /// Takes the text before the first line end of this kind, together with the line end. Carriage
     /// returns and line feeds at the front of the text are left out, which may leave it empty. A
@@ -56,10 +63,13 @@ private:
 
     int find(LineEnd lineEnd);
     Search examine(LineEnd lineEnd, int from);
+    int dropThroughLineEnd(int from);
     void compact();
+    void giveBackMemory();
 
     QByteArray bytes;
-    int head = 0; // what lies before it has been taken
+    int head = 0;              // what lies before it has been taken
+    bool dropsTheLine = false; // up to the next line end nothing is kept
     std::array<Search, lineEnds.size()> searches;
     qint64 work = 0;
 };

@@ -17,6 +17,7 @@ namespace {
 
 constexpr auto answerTime = 2000ms;
 constexpr auto silenceTime = 10000ms;
+constexpr std::chrono::milliseconds dropsLogPause = 1s;
 constexpr int commandLength = 8;
 
 /// Whether an open port that raises this error is lost. A pulled cable shows itself as one or
@@ -152,7 +153,7 @@ void SerialPortLayer::readData()
 {
     checkPending = false;
     timeoutTimer.stop();
-    rxBuffer.append(port.readAll());
+    logDropped(rxBuffer.append(port.readAll()));
     for (const ReceiveBuffer::LineEnd lineEnd : ReceiveBuffer::lineEnds) {
         if (const auto line = rxBuffer.takeLine(lineEnd)) {
             receivedLines.append(*line);
@@ -161,6 +162,19 @@ void SerialPortLayer::readData()
     }
     if (port.isOpen()) { // the reader of a line may have closed it
         checkTimer.start();
+    }
+}
+
+/// One line a second: a log that grew with a flood would be one more.
+void SerialPortLayer::logDropped(int bytes)
+{
+    droppedBytes += bytes;
+    const bool isDue =
+        !sinceDropsLogged.isValid() || sinceDropsLogged.hasExpired(dropsLogPause.count());
+    if (droppedBytes > 0 && isDue) {
+        DEBUG_LOG << "More arrives than can be read: dropped bytes:" << droppedBytes;
+        droppedBytes = 0;
+        sinceDropsLogged.start();
     }
 }
 

@@ -6,6 +6,7 @@
 
 #include "receivebuffer.h"
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QSerialPort>
 #include <QString>
@@ -93,7 +94,8 @@ public slots:
     void timeout();
 
     /// Takes what has arrived. One call yields at most three lines, one for each kind of line end;
-    /// further complete lines wait for the next arrival.
+    /// further complete lines wait for the next arrival, as many as a ReceiveBuffer keeps. The log
+    /// tells once a second how much it does not keep.
     void readData();
 
     /// Sends the keep-alive: nothing has been sent or received for 10 s.
@@ -107,6 +109,7 @@ private:
     bool openDevice();
     void handlePortError(QSerialPort::SerialPortError error);
     void dropFailedPort();
+    void logDropped(int bytes);
 
     ReceiveBuffer rxBuffer;
     QSerialPort port;
@@ -116,6 +119,8 @@ private:
     bool checkPending = false;
     PortFault portFault = PortFault::None;
     QString trouble;
+    qint64 droppedBytes = 0; ///< of which the log does not tell yet
+    QElapsedTimer sinceDropsLogged;
 };
 
 #endif // SERIALPORTLAYER_H
