@@ -5,6 +5,8 @@
 
 #include <QRegExp>
 
+#include <algorithm>
+
 namespace Protocol {
 
 namespace {
@@ -81,7 +83,17 @@ QString blankSeparatedItem(const QString &line, int index)
 
 ReplyKind replyKind(const QString &line) { return firstMark(line, replyMarks, ReplyKind::None); }
 
-QStringList replyPieces(const QString &line) { return line.mid(1).split(QLatin1Char(',')); }
+QStringList replyPieces(const QString &line)
+{
+    constexpr int most = 1000;
+    QStringList pieces;
+    int begin = std::min(1, line.size());
+    for (int comma = 0; comma >= 0 && pieces.size() < most; begin = comma + 1) {
+        comma = line.indexOf(QLatin1Char(','), begin);
+        pieces.append(line.mid(begin, comma - begin));
+    }
+    return pieces;
+}
 
 SettingsReply readReply(const QString &line, const QStringList &pieces)
 {

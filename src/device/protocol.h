@@ -30,6 +30,10 @@ constexpr char saveSettings[] = "*F345678";
 constexpr char factoryReset[] = "*R345678";
 } // namespace Command
 
+/// The characters of a line that are worth reading. No sounder sends a line a hundredth as long;
+/// noise may hold no line end for megabytes, and every reader goes through all that it is given.
+constexpr int readCharacters = 64 * 1024;
+
 /// What a line from the sounder is, in the order in which the kinds are tested.
 enum class LineKind {
     IdentityBanner,
@@ -79,6 +83,7 @@ struct ReplyPiece
 ReplyKind replyKind(const QString &line);
 
 /// The comma-separated pieces of a reply line without its first character ("*"). Empty pieces stay.
+/// Of more than 1000 pieces (a sounder sends nine at most) the first are given.
 QStringList replyPieces(const QString &line);
 
 /// A line of the settings reply, read.

@@ -199,11 +199,13 @@ private:
 
     // ---- mainwindow_settingsreply.cpp: what the unit is set to
     void parseSetting(const Protocol::SettingsReply &reply);
-    void applyCommonPiece(const Protocol::ReplyPiece &piece);
-    void applyChannelPiece(ChannelPane &pane, const Protocol::ReplyPiece &piece);
+    // These tell whether what can be used may be something else now.
+    bool applyPiece(Protocol::ReplyKind kind, const Protocol::ReplyPiece &piece);
+    bool applyCommonPiece(const Protocol::ReplyPiece &piece);
+    bool applyChannelPiece(ChannelPane &pane, const Protocol::ReplyPiece &piece);
+    bool applyFormat(const QString &value);
+    bool applyMode(ChannelPane &pane, QChar mode);
     void applyRate(const QString &value);
-    void applyFormat(const QString &value);
-    void applyMode(ChannelPane &pane, QChar mode);
 
     // ---- mainwindow_depths.cpp: what the unit measures
     void parseDepth(const QString &line);

@@ -23,25 +23,32 @@ void MainWindow::parseSetting(const Protocol::SettingsReply &reply)
 {
     const SettingEditor::Pause paused(editor);
     const SettingMarks marks(common, high, low);
+    bool movesLocks = false; // to go through all controls costs more than all pieces
     for (const Protocol::ReplyPiece &piece : reply.pieces) {
-        switch (reply.kind) {
-        case Protocol::ReplyKind::Common:
-            applyCommonPiece(piece);
-            break;
-        case Protocol::ReplyKind::HighChannel:
-            applyChannelPiece(high, piece);
-            break;
-        case Protocol::ReplyKind::LowChannel:
-            applyChannelPiece(low, piece);
-            break;
-        case Protocol::ReplyKind::None:
-            break;
-        }
+        movesLocks = applyPiece(reply.kind, piece) || movesLocks;
         marks.setTold(reply.kind, piece.letter);
+    }
+    if (movesLocks) {
+        updateControls();
     }
 }
 
-void MainWindow::applyCommonPiece(const Protocol::ReplyPiece &piece)
+bool MainWindow::applyPiece(Protocol::ReplyKind kind, const Protocol::ReplyPiece &piece)
+{
+    switch (kind) {
+    case Protocol::ReplyKind::Common:
+        return applyCommonPiece(piece);
+    case Protocol::ReplyKind::HighChannel:
+        return applyChannelPiece(high, piece);
+    case Protocol::ReplyKind::LowChannel:
+        return applyChannelPiece(low, piece);
+    case Protocol::ReplyKind::None:
+        break;
+    }
+    return false;
+}
+
+bool MainWindow::applyCommonPiece(const Protocol::ReplyPiece &piece)
 {
     const bool imperial = settings.isImperial();
     common.pings.showReply(piece, imperial);
@@ -53,14 +60,15 @@ void MainWindow::applyCommonPiece(const Protocol::ReplyPiece &piece)
     if (isAbout(piece, "baud")) {
         applyRate(piece.value);
     } else if (isAbout(piece, "format")) {
-        applyFormat(piece.value);
+        return applyFormat(piece.value);
     }
     // The switches are no settings that a command could set a value of.
     for (const auto &[letter, pane] : {std::pair{'H', &high}, std::pair{'L', &low}}) {
-        if (piece.letter == QLatin1Char(letter) && pane->showSwitch(piece.value)) {
-            updateControls();
+        if (piece.letter == QLatin1Char(letter)) {
+            return pane->showSwitch(piece.value);
         }
     }
+    return false;
 }
 
 /// The device tells at which rate it speaks. The link runs at that rate already, so the port stays
@@ -76,25 +84,26 @@ void MainWindow::applyRate(const QString &value)
     session.followRate(value);
 }
 
-void MainWindow::applyFormat(const QString &value)
+bool MainWindow::applyFormat(const QString &value)
 {
-    if (const OutputFormat *format = ReplyValues::format(value)) {
+    const OutputFormat *format = ReplyValues::format(value);
+    if (format != nullptr) {
         ui->formatComboBox->setCurrentText(format->name);
         common.formatFixesOptions = format->fixesOptions(); // however it came to be chosen
-        updateControls();
     }
+    return format != nullptr;
 }
 
-void MainWindow::applyChannelPiece(ChannelPane &pane, const Protocol::ReplyPiece &piece)
+bool MainWindow::applyChannelPiece(ChannelPane &pane, const Protocol::ReplyPiece &piece)
 {
     if (isAbout(piece, "highSounderMode")) {
-        applyMode(pane, ReplyValues::letter(piece.value));
-    } else {
-        pane.showReply(piece, settings.isImperial());
+        return applyMode(pane, ReplyValues::letter(piece.value));
     }
+    pane.showReply(piece, settings.isImperial());
+    return false;
 }
 
-void MainWindow::applyMode(ChannelPane &pane, QChar mode)
+bool MainWindow::applyMode(ChannelPane &pane, QChar mode)
 {
     if (mode == QLatin1Char('a')) {
         pane.automatic->setChecked(true);
@@ -107,7 +116,7 @@ void MainWindow::applyMode(ChannelPane &pane, QChar mode)
         pane.state.automatic = true;
         low.state.resting = true; // a unit in shallow mode pings on its high channel alone
     } else {
-        return;
+        return false;
     }
-    updateControls();
+    return true;
 }

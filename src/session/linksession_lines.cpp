@@ -30,7 +30,7 @@ QString refusalWords(const QString &key)
 void LinkSession::gotSerialData()
 {
     while (!serial.receivedLines.isEmpty()) {
-        handleLine(serial.receivedLines.takeFirst());
+        handleLine(serial.receivedLines.takeFirst().left(Protocol::readCharacters));
     }
 }
 

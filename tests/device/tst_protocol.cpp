@@ -189,6 +189,9 @@ void TestProtocol::replyIsSplitAtCommasWithoutItsFirstCharacter()
     QCOMPARE(Protocol::replyPieces("*i5,,v1,"), (QStringList{"i5", "", "v1", ""}));
     QCOMPARE(Protocol::replyPieces("*"), QStringList{""});
     QCOMPARE(Protocol::replyPieces(""), QStringList{""});
+    QCOMPARE(Protocol::replyPieces("*" + QString("p,").repeated(999) + "last").size(), 1000);
+    QCOMPARE(Protocol::replyPieces("*" + QString("p,").repeated(999) + "last").last(), "last");
+    QCOMPARE(Protocol::replyPieces("*" + QString("p,").repeated(1000) + "one more").last(), "p");
 }
 
 void TestProtocol::blankSeparatedItemsKeepEmptyOnes()
