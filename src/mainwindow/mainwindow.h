@@ -16,6 +16,7 @@
 #include "settings.h"
 #include "soundings.h"
 
+#include <QIcon>
 #include <QMainWindow>
 #include <QTimer>
 
@@ -236,6 +237,9 @@ private:
     void showHelp(const QString &topic);
 
     std::unique_ptr<Ui::MainWindow> ui;
+    // Made once: an icon made anew for each connection leaves some of its memory behind.
+    const QIcon connectedIcon;
+    const QIcon notConnectedIcon;
     Settings settings;
     LinkSession session;
     PortChooser ports;

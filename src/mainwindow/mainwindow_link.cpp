@@ -92,8 +92,7 @@ void MainWindow::followLink(SessionState state)
 void MainWindow::setConnectButton(bool connected)
 {
     ui->connectToDevice->setText(connected ? "Disconnect" : "Connect   ");
-    ui->connectToDevice->setIcon(QIcon(connected ? ":/resourcefiles/images/connected.png"
-                                                 : ":/resourcefiles/images/not_connected.png"));
+    ui->connectToDevice->setIcon(connected ? connectedIcon : notConnectedIcon);
     if (connected) {
         ports.timer().stop();
     } else {
