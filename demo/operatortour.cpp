@@ -7,14 +7,8 @@
 #include "sounderline.h"
 
 #include <QAbstractButton>
-#include <QApplication>
-#include <QComboBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPixmap>
-#include <QScreen>
-#include <QTabBar>
-#include <QTabWidget>
 #include <QTextDocumentFragment>
 #include <QTextStream>
 #include <QtTest>
@@ -40,6 +34,7 @@ QString fileName(int number, const QString &stepName)
 OperatorTour::OperatorTour(MainWindow &mainWindow, SounderLine &dual, SounderLine &highOnly,
                            const QDir &folder, QObject *parent)
     : QObject(parent)
+    , WindowHand(mainWindow)
     , window(mainWindow)
     , sounder(dual)
     , singleChannel(highOnly)
@@ -130,34 +125,6 @@ void OperatorTour::addGraph(const QString &name)
         [this] { return popup("Depth Graph"); });
 }
 
-void OperatorTour::click(const QString &name) const
-{
-    auto *const widget = find<QWidget>(name);
-    constexpr int insideIndicator = 12; // a radio button answers at its left end
-    QTest::mouseClick(widget, Qt::LeftButton, {}, QPoint(insideIndicator, widget->height() / 2));
-}
-
-void OperatorTour::clickTab(int index) const
-{
-    QTabBar *const bar = find<QTabWidget>("h")->tabBar();
-    QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(index).center());
-}
-
-void OperatorTour::choose(const QString &list, const QString &entry) const
-{
-    auto *const comboBox = find<QComboBox>(list);
-    comboBox->setCurrentIndex(comboBox->findText(entry));
-}
-
-void OperatorTour::type(const QString &edit, const QString &text) const
-{
-    auto *const widget = find<QLineEdit>(edit);
-    widget->setFocus();
-    widget->selectAll();
-    QTest::keyClicks(widget, text);
-    QTest::keyClick(widget, Qt::Key_Return);
-}
-
 void OperatorTour::answer(const char *title, QMessageBox::StandardButton button) const
 {
     auto *const box = qobject_cast<QMessageBox *>(popup(title));
@@ -177,15 +144,4 @@ bool OperatorTour::isConnected() const
 {
     return find<QWidget>("commonHolder")->isEnabled() &&
            find<QLabel>("temperatureLabel")->text().contains("Temperature");
-}
-
-QWidget *OperatorTour::popup(const char *title) const
-{
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    for (QWidget *candidate : windows) {
-        if (candidate->isVisible() && candidate->windowTitle() == title) {
-            return candidate;
-        }
-    }
-    return nullptr;
 }

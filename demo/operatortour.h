@@ -5,6 +5,7 @@
 #define OPERATORTOUR_H
 
 #include "mainwindow.h"
+#include "windowhand.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -20,7 +21,7 @@ class SounderLine;
 /// Plays an operator's tour through the real window with real clicks and keys: each step acts,
 /// waits for what the operator would wait for, prints one line with what the info line says, and
 /// leaves a picture. Nothing blocks; the tour lives in the event loop.
-class OperatorTour : public QObject
+class OperatorTour : public QObject, private WindowHand
 {
     Q_OBJECT
 
@@ -75,17 +76,10 @@ private:
     void report(bool came);
     void takePicture() const;
 
-    template <typename Widget>
-    Widget *find(const QString &name) const;
-    void click(const QString &name) const;
-    void clickTab(int index) const;
-    void choose(const QString &list, const QString &entry) const;
-    void type(const QString &edit, const QString &text) const;
     void answer(const char *title, QMessageBox::StandardButton button) const;
     QString info() const;
     bool infoHolds(const char *words) const;
     bool isConnected() const;
-    QWidget *popup(const char *title) const;
 
     MainWindow &window;
     SounderLine &sounder;
@@ -98,15 +92,5 @@ private:
     QTimer clock;
     QElapsedTimer waiting;
 };
-
-template <typename Widget>
-Widget *OperatorTour::find(const QString &name) const
-{
-    auto *const widget = window.findChild<Widget *>(name);
-    if (widget == nullptr) {
-        qFatal("The window has no %s", qPrintable(name));
-    }
-    return widget;
-}
 
 #endif // OPERATORTOUR_H

@@ -80,7 +80,7 @@ void OperatorTour::planChannel()
     addChange(
         "Low channel switched off",
         [this] {
-            clickTab(lowTab);
+            clickTab("h", lowTab);
             click("disableLF");
         },
         "Disabling LF ... Success");
@@ -98,7 +98,7 @@ void OperatorTour::planLooking()
         return [this, title] { return popup(title); };
     };
     add(
-        "High frequency tab", [this] { clickTab(highTab); },
+        "High frequency tab", [this] { clickTab("h", highTab); },
         [this] { return find<QTabWidget>("h")->currentIndex() == highTab; });
     add(
         "Help", [this] { click("commonSettingsInfo"); }, shown("Information"),

@@ -3,8 +3,9 @@
 
 #include "picturedesk.h"
 
+#include "windowhand.h"
+
 #include <QAbstractItemView>
-#include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -40,11 +41,7 @@ PictureDesk::PictureDesk(const SounderOptions &options)
 template <typename Widget>
 Widget *PictureDesk::find(const char *name)
 {
-    auto *const widget = window.findChild<Widget *>(QLatin1String(name));
-    if (widget == nullptr) {
-        qFatal("The window has no %s", name);
-    }
-    return widget;
+    return WindowHand(window).find<Widget>(name);
 }
 
 void PictureDesk::choosePort(const char *rate)
@@ -168,13 +165,4 @@ bool PictureDesk::textComes(const char *label)
     return QTest::qWaitFor([text] { return !text->text().isEmpty(); }, patienceMs);
 }
 
-QWidget *PictureDesk::popup(const char *title)
-{
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    for (QWidget *candidate : windows) {
-        if (candidate->isVisible() && candidate->windowTitle() == QLatin1String(title)) {
-            return candidate;
-        }
-    }
-    return nullptr;
-}
+QWidget *PictureDesk::popup(const char *title) { return WindowHand::popup(title); }
