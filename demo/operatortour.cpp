@@ -119,7 +119,7 @@ void OperatorTour::addGraph(const QString &name)
         click("openGraph");
         soundings = 0;
     };
-    constexpr int someSoundings = 40;
+    constexpr int someSoundings = 15; // a strip that can be seen
     add(
         name, open, [this] { return soundings >= someSoundings; },
         [this] { return popup("Depth Graph"); });
