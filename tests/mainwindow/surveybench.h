@@ -15,7 +15,7 @@
 
 /// A survey: the window with its depth graph open beside a sounder that pings ten times a second.
 /// The test says where the bottom is, and reckons itself what the sounder must send of it.
-class SurveyBench : public ReadyBench
+class SurveyBench : private NewWindow, public ReadyBench
 {
 public:
     /// The bottom below the transducers in millimetres; without a value it is lost.

@@ -14,7 +14,7 @@ class BlankingSlidersTest : public QObject
 
 private slots:
     void initTestCase() { giveProgramStyle(); }
-    void cleanupTestCase();
+    void cleanupTestCase() { endBenches(); }
 
     void rangeFollowsTheUnitAndTheLowSliderBeginsHigher_data();
     void rangeFollowsTheUnitAndTheLowSliderBeginsHigher();
@@ -30,11 +30,13 @@ private slots:
 
 private:
     SliderBench &benchOf(const QString &channel, bool imperial);
+    void endBenches();
 
     std::unique_ptr<SliderBench> benches[2]; ///< metric, imperial
 };
 
-void BlankingSlidersTest::cleanupTestCase()
+/// For a test that needs a bench of its own.
+void BlankingSlidersTest::endBenches()
 {
     for (auto &bench : benches) {
         bench.reset();
@@ -133,6 +135,7 @@ void BlankingSlidersTest::aDragBelowTheFloorReturnsToTheFloorOfBothChannels()
 {
     QFETCH(QString, channel);
     QFETCH(bool, imperial);
+    endBenches();
     SliderBench bench(imperial);
     bench.useChannel(channel);
     bench.place(blanking, 500);
@@ -182,6 +185,7 @@ void BlankingSlidersTest::blankingCanBeSetInEveryMode()
 {
     QFETCH(QString, channel);
     QFETCH(QString, mode);
+    endBenches();
     SliderBench bench;
     bench.useChannel(channel);
     bench.click(channel + mode + "Radio");

@@ -194,7 +194,7 @@ void CommandAnswersTest::endlessAnswersDoNotLengthenTheInfoLineWithoutEnd()
     constexpr int longest = 4000;
     change("soundVelocityUp", "*v501000");
     QVERIFY(QTest::qWaitFor([this] {
-        bench->say("ERR");
+        bench->line.write(QByteArray("ERR\r\n").repeated(10));
         return bench->info().size() > longest;
     }));
     for (const char *answer : {"OK", "ERR", "OK"}) {

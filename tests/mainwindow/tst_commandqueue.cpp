@@ -64,6 +64,7 @@ private:
 
     std::unique_ptr<LogCapture> log;
     std::unique_ptr<WindowBench> bench;
+    std::unique_ptr<QObject> watch; // the window stays when the test is over
     QElapsedTimer clock;
     QVector<Announcement> announcements;
 };
@@ -78,10 +79,12 @@ void CommandQueueTest::init()
     bench->device().clearTranscript();
     log->clear();
     announcements.clear();
+    watch = std::make_unique<QObject>();
 }
 
 void CommandQueueTest::cleanup()
 {
+    watch.reset();
     bench.reset();
     log.reset();
 }
@@ -90,7 +93,7 @@ void CommandQueueTest::cleanup()
 void CommandQueueTest::watchAnnouncements()
 {
     commandTimer()->setTimerType(Qt::PreciseTimer);
-    connect(commandTimer(), &QTimer::timeout, this, [this] {
+    connect(commandTimer(), &QTimer::timeout, watch.get(), [this] {
         announcements.append({clock.elapsed(), bench->info()});
     });
     clock.start();

@@ -38,19 +38,18 @@ SounderOptions WindowBench::quietSounder()
 
 WindowBench::WindowBench(const SounderOptions &options)
     : sounder(options)
-    , window([this] {
+    , keptWindow(KeptWindow::take([this] {
         ++timesListed;
         return ports;
-    })
+    }))
+    , window(keptWindow->window())
 {
     ports = QStringList{QStringLiteral("ttyNOBODY"), sounder.portPath()};
     QMetaObject::invokeMethod(&window, "updateSerialPorts");
     watchForForgottenBoxes();
-    window.show();
-    if (!QTest::qWaitForWindowExposed(&window)) {
-        qFatal("the window did not open");
-    }
 }
+
+WindowBench::~WindowBench() { KeptWindow::leave(std::move(keptWindow)); }
 
 /// A message box that no test answers would keep the program in its event loop for ever.
 void WindowBench::watchForForgottenBoxes()

@@ -4,7 +4,7 @@
 #ifndef WINDOWBENCH_H
 #define WINDOWBENCH_H
 
-#include "mainwindow.h"
+#include "keptwindow.h"
 #include "ptysounder.h"
 
 #include <QStringList>
@@ -13,7 +13,8 @@
 class QComboBox;
 
 /// The real window beside a simulated sounder on a real pseudo-terminal, with an operator's hands:
-/// clicks and keys go to the widgets, and what is asked is what the operator sees.
+/// clicks and keys go to the widgets, and what is asked is what the operator sees. The sounder is a
+/// new one each time; the window comes from the bench before, back at its beginning (KeptWindow).
 class WindowBench
 {
 public:
@@ -21,6 +22,10 @@ public:
     static SounderOptions quietSounder();
 
     explicit WindowBench(const SounderOptions &options = quietSounder());
+    ~WindowBench();
+
+    WindowBench(const WindowBench &) = delete;
+    WindowBench &operator=(const WindowBench &) = delete;
 
     SounderModel &device() { return sounder.model(); }
 
@@ -81,7 +86,12 @@ public:
     QStringList ports;
     int timesListed = 0;
     PtySounder sounder;
-    MainWindow window;
+
+private:
+    std::unique_ptr<KeptWindow> keptWindow;
+
+public:
+    MainWindow &window;
 
 private:
     void watchForForgottenBoxes();
