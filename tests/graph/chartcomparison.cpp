@@ -54,8 +54,20 @@ QByteArray firstDifference(const QImage &actual, const QImage &expected)
 
 QByteArray ChartComparison::difference(const QSize &size, const DepthChartData &chart)
 {
+    return difference(size, chart, {QImage::Format_RGB32, QImage::Format_ARGB32});
+}
+
+QByteArray ChartComparison::differenceOnOneCanvas(const QSize &size, const DepthChartData &chart)
+{
+    return difference(size, chart,
+                      {charts % 2 == 0 ? QImage::Format_RGB32 : QImage::Format_ARGB32});
+}
+
+QByteArray ChartComparison::difference(const QSize &size, const DepthChartData &chart,
+                                       std::initializer_list<QImage::Format> formats)
+{
     const QImage expected = plainChart(size, chart);
-    for (const QImage::Format format : {QImage::Format_RGB32, QImage::Format_ARGB32}) {
+    for (const QImage::Format format : formats) {
         const QByteArray found = firstDifference(drawnChart(size, chart, format), expected);
         if (!found.isEmpty()) {
             return QByteArray(format == QImage::Format_RGB32 ? "RGB32: " : "ARGB32: ") + found;

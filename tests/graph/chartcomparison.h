@@ -7,6 +7,8 @@
 #include <QByteArray>
 #include <QImage>
 
+#include <initializer_list>
+
 struct DepthChartData;
 
 /// The chart as the program draws it on a canvas of this format.
@@ -24,10 +26,16 @@ public:
     /// is.
     QByteArray difference(const QSize &size, const DepthChartData &chart);
 
+    /// The same on one kind of canvas and on the other by turns: for many charts of the same sort.
+    QByteArray differenceOnOneCanvas(const QSize &size, const DepthChartData &chart);
+
     /// Says in the test's output how much has been compared.
     void report() const;
 
 private:
+    QByteArray difference(const QSize &size, const DepthChartData &chart,
+                          std::initializer_list<QImage::Format> formats);
+
     qint64 charts = 0;
     qint64 pixels = 0;
 };

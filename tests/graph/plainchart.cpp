@@ -20,22 +20,25 @@ void plainSamples(QPainter &painter, const DepthChartData &chart, double yScale,
 {
     const float noDepth = DepthChartData::noDepth;
     const double unit = double(chart.unitFactor);
+    const QPen hfDot = strokePen(QColor(0, 0, 255), 3.0 * ratio);
+    const QPen lfDot = strokePen(QColor(255, 0, 0), 3.0 * ratio);
+    const QPen downward = strokePen(QColor(64, 192, 255), ratio);
+    const QPen upward = strokePen(QColor(255, 192, 192), ratio);
     for (int i = 0; i < chart.samples.size(); ++i) {
         const float hf = chart.samples.at(i).hf;
         const float lf = chart.samples.at(i).lf;
         const double x = i * xStep;
         if (hf != noDepth) {
-            painter.setPen(strokePen(QColor(0, 0, 255), 3.0 * ratio));
+            painter.setPen(hfDot);
             painter.drawPoint(QPointF(x, double(hf) * yScale * unit));
             if (lf != noDepth && hf != 0.0F && lf != 0.0F) {
-                painter.setPen(
-                    strokePen(lf > hf ? QColor(64, 192, 255) : QColor(255, 192, 192), ratio));
+                painter.setPen(lf > hf ? downward : upward);
                 painter.drawLine(int(x), int(double(hf) * yScale * unit), int(x),
                                  int(double(lf) * yScale * unit));
             }
         }
         if (lf != noDepth) {
-            painter.setPen(strokePen(QColor(255, 0, 0), 3.0 * ratio));
+            painter.setPen(lfDot);
             painter.drawPoint(QPointF(x, double(lf) * yScale * unit));
         }
     }

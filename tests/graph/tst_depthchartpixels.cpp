@@ -234,13 +234,16 @@ void TestDepthChartPixels::dotsOnTopOfEachOther()
     }
 }
 
+/// Every size meets a quarter of the scenes, every scene every width and every height.
 void TestDepthChartPixels::tinyCharts()
 {
-    for (int width = 1; width <= 20; ++width) {
-        for (int height = 1; height <= 20; ++height) {
-            for (const Scene &scene : scenes()) {
-                const QByteArray difference =
-                    comparison.difference({width, height}, chartOf(scene, 25, false));
+    constexpr int largest = 20;
+    constexpr int part = 4;
+    for (int index = 0; index < scenes().size(); ++index) {
+        const DepthChartData chart = chartOf(scenes().at(index), 25, false);
+        for (int width = 1; width <= largest; ++width) {
+            for (int height = 1 + (index + width) % part; height <= largest; height += part) {
+                const QByteArray difference = comparison.difference({width, height}, chart);
                 QVERIFY2(difference.isEmpty(), difference);
             }
         }

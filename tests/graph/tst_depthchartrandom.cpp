@@ -97,7 +97,7 @@ void TestDepthChartRandom::chartsOfAnySizeAreThePlainOnes()
     for (int round = 0; round < 60; ++round) {
         const DepthChartData chart = random.chart();
         const QSize size(random.number(1, 1100), random.number(1, 700));
-        const QByteArray difference = comparison.difference(size, chart);
+        const QByteArray difference = comparison.differenceOnOneCanvas(size, chart);
         QVERIFY2(difference.isEmpty(),
                  "chart " + QByteArray::number(round) + " of the seed: " + difference);
     }
@@ -114,7 +114,7 @@ void TestDepthChartRandom::chartsOfTheWindowsSizeAreThePlainOnes()
     RandomCharts random(~seed);
     for (const QSize &size : {QSize(974, 650), QSize(1920, 1000), QSize(1904, 1010)}) {
         for (int round = 0; round < 10; ++round) {
-            const QByteArray difference = comparison.difference(size, random.chart());
+            const QByteArray difference = comparison.differenceOnOneCanvas(size, random.chart());
             QVERIFY2(difference.isEmpty(),
                      "chart " + QByteArray::number(round) + " of this size: " + difference);
         }
