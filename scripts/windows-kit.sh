@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # What the scripts for Windows share; read with `source` after common.sh, not run.
 
 windows_build=$root/build/windows-cross
