@@ -5,7 +5,7 @@ windows_build=$root/build/windows-cross
 windows_ports=$windows_build/ports # links to the terminals that stand behind Wine's COM ports
 
 # Which of Wine's ports a test may use; each test program has ports of its own. One lies above COM9.
-windows_port_numbers=(5 7 8 9 12 13)
+windows_port_numbers=(5 7 8 9 12 13 14)
 
 # given_kit: prints the kit for Windows that this machine holds: what TALVERO_WINDOWS_SDK names, or what stands
 # at ../shared/windows, or what scripts/windows-sdk has made. Fails if there is none.
