@@ -121,26 +121,27 @@ void ChannelPane::showStartingTexts(const StartingTexts &texts) const
     blanking.value->setText(texts.blankingValue);
 }
 
-void ChannelPane::showReply(const Protocol::ReplyPiece &piece, bool imperial) const
+bool ChannelPane::showReply(const Protocol::ReplyPiece &piece, bool imperial) const
 {
+    bool isShown = false;
     for (const FieldRow &row : fieldRows) {
-        (this->*row.field).showReply(piece, imperial);
+        isShown = (this->*row.field).showReply(piece, imperial) || isShown;
     }
     const SettingSpec *tvg = SettingSpecs::find(key("TVG"));
-    if (piece.letter == QLatin1Char(tvg->replyLetter)) {
-        showTvg(piece.value);
-    }
+    return piece.letter == QLatin1Char(tvg->replyLetter) ? showTvg(piece.value) : isShown;
 }
 
-void ChannelPane::showTvg(const QString &value) const
+bool ChannelPane::showTvg(const QString &value) const
 {
     const std::pair<char, QRadioButton *> options[] = {
         {'N', tvgOff}, {'T', tvgLog10}, {'W', tvgLog20}};
     for (const auto &[letter, option] : options) {
         if (ReplyValues::letter(value) == QLatin1Char(letter)) {
             option->setChecked(true);
+            return true;
         }
     }
+    return false;
 }
 
 QList<QWidget *> ChannelPane::controlsOf(const SettingSpec &setting) const

@@ -34,6 +34,9 @@ public:
     /// The setting's key for this channel: "highDraft" for "Draft".
     QString key(const char *setting) const { return prefix + QLatin1String(setting); }
 
+    /// Stands for the channel's being switched on or off, which is no setting: "highSwitch".
+    QString switchKey() const { return key("Switch"); }
+
     /// Lets exactly these groups be used. Of a channel that the unit lacks nothing can be.
     void allow(ControlRules::ChannelGroups groups) const;
 
@@ -55,8 +58,8 @@ public:
     void showStartingTexts(const StartingTexts &texts) const;
 
     /// Fills the control that the piece of a settings reply speaks of, in feet if `imperial`. The
-    /// sounder mode and letters that no control has change nothing.
-    void showReply(const Protocol::ReplyPiece &piece, bool imperial) const;
+    /// sounder mode and letters that no control has change nothing. Whether it was shown.
+    bool showReply(const Protocol::ReplyPiece &piece, bool imperial) const;
 
     /// Shows whether the unit pings on this channel: "1" or "0"; anything else changes nothing. "1"
     /// leaves the state alone: the banner has cleared it if the unit carries the channel. Whether
@@ -93,7 +96,7 @@ private:
     template <typename Widget>
     Widget *find(const char *name) const;
 
-    void showTvg(const QString &value) const;
+    bool showTvg(const QString &value) const;
 
     static const FieldRow fieldRows[];
 

@@ -200,13 +200,14 @@ private:
 
     // ---- mainwindow_settingsreply.cpp: what the unit is set to
     void parseSetting(const Protocol::SettingsReply &reply);
-    // These tell whether what can be used may be something else now.
-    bool applyPiece(Protocol::ReplyKind kind, const Protocol::ReplyPiece &piece);
-    bool applyCommonPiece(const Protocol::ReplyPiece &piece);
-    bool applyChannelPiece(ChannelPane &pane, const Protocol::ReplyPiece &piece);
+    // MovesLocks: shown, and what can be used may be something else now.
+    enum class PieceEffect { Ignored, Shown, MovesLocks };
+    PieceEffect applyPiece(Protocol::ReplyKind kind, const Protocol::ReplyPiece &piece);
+    PieceEffect applyCommonPiece(const Protocol::ReplyPiece &piece);
+    PieceEffect applyChannelPiece(ChannelPane &pane, const Protocol::ReplyPiece &piece);
     bool applyFormat(const QString &value);
     bool applyMode(ChannelPane &pane, QChar mode);
-    void applyRate(const QString &value);
+    bool applyRate(const QString &value);
 
     // ---- mainwindow_depths.cpp: what the unit measures
     void parseDepth(const QString &line);

@@ -25,6 +25,9 @@ void MainWindow::resetToFactory()
         DEBUG_LOG_AS("on_resetSettings_clicked") << "Cancel was clicked";
     } else if (answer == QMessageBox::Yes) {
         DEBUG_LOG_AS("on_resetSettings_clicked") << "Yes was clicked";
+        if (session.state() == SessionState::Offline) {
+            return; // lost while the question stood: the info line says so, and goes on to
+        }
         session.sendAtOnce("Sending Factory Reset to Device", Protocol::Command::factoryReset,
                            Topic::factoryReset());
     }

@@ -82,7 +82,7 @@ void MainWindow::switchChannel(bool checked, ChannelPane &pane, bool on,
     if (!checked || editor.isPaused()) {
         return;
     }
-    session.sendAtOnce(announcement, command);
+    session.sendAtOnce(announcement, command, {}, pane.switchKey());
     if (on) {
         pane.state.wake();
         pane.state.automatic = pane.state.automatic || !pane.manual->isChecked();

@@ -25,15 +25,19 @@ void MainWindow::parseSetting(const Protocol::SettingsReply &reply)
     const SettingMarks marks(common, high, low);
     bool movesLocks = false; // to go through all controls costs more than all pieces
     for (const Protocol::ReplyPiece &piece : reply.pieces) {
-        movesLocks = applyPiece(reply.kind, piece) || movesLocks;
-        marks.setTold(reply.kind, piece.letter);
+        const PieceEffect effect = applyPiece(reply.kind, piece);
+        movesLocks = movesLocks || effect == PieceEffect::MovesLocks;
+        if (effect != PieceEffect::Ignored) {
+            marks.setTold(reply.kind, piece.letter);
+        }
     }
     if (movesLocks) {
         updateControls();
     }
 }
 
-bool MainWindow::applyPiece(Protocol::ReplyKind kind, const Protocol::ReplyPiece &piece)
+MainWindow::PieceEffect MainWindow::applyPiece(Protocol::ReplyKind kind,
+                                               const Protocol::ReplyPiece &piece)
 {
     switch (kind) {
     case Protocol::ReplyKind::Common:
@@ -45,43 +49,46 @@ bool MainWindow::applyPiece(Protocol::ReplyKind kind, const Protocol::ReplyPiece
     case Protocol::ReplyKind::None:
         break;
     }
-    return false;
+    return PieceEffect::Ignored;
 }
 
-bool MainWindow::applyCommonPiece(const Protocol::ReplyPiece &piece)
+MainWindow::PieceEffect MainWindow::applyCommonPiece(const Protocol::ReplyPiece &piece)
 {
     const bool imperial = settings.isImperial();
-    common.pings.showReply(piece, imperial);
-    common.velocity.showReply(piece, imperial);
+    bool isShown = common.pings.showReply(piece, imperial);
+    isShown = common.velocity.showReply(piece, imperial) || isShown;
     if (common.maxDepth.showReply(piece, imperial)) {
         constexpr double millimetresPerMetre = 1000.0;
         emit setMaxDepth(static_cast<float>(NumberText::toInt(piece.value) / millimetresPerMetre));
+        isShown = true;
     }
     if (isAbout(piece, "baud")) {
-        applyRate(piece.value);
+        isShown = applyRate(piece.value);
     } else if (isAbout(piece, "format")) {
-        return applyFormat(piece.value);
+        return applyFormat(piece.value) ? PieceEffect::MovesLocks : PieceEffect::Ignored;
     }
     // The switches are no settings that a command could set a value of.
     for (const auto &[letter, pane] : {std::pair{'H', &high}, std::pair{'L', &low}}) {
-        if (piece.letter == QLatin1Char(letter)) {
-            return pane->showSwitch(piece.value);
+        if (piece.letter == QLatin1Char(letter) && pane->showSwitch(piece.value)) {
+            SettingMarks::setSwitchTold(*pane);
+            return PieceEffect::MovesLocks;
         }
     }
-    return false;
+    return isShown ? PieceEffect::Shown : PieceEffect::Ignored;
 }
 
 /// The device tells at which rate it speaks. The link runs at that rate already, so the port stays
 /// open; every place that remembers a rate takes this one.
-void MainWindow::applyRate(const QString &value)
+bool MainWindow::applyRate(const QString &value)
 {
     if (!settings.baudList().contains(value)) {
-        return; // a spoilt reply must not choose "Auto"
+        return false; // a spoilt reply must not choose "Auto"
     }
     ui->newBaudComboBox->setCurrentText(value);
     ui->baudComboBox->setCurrentText(value);
     settings.changeSetting(QStringLiteral("baud"), value);
     session.followRate(value);
+    return true;
 }
 
 bool MainWindow::applyFormat(const QString &value)
@@ -94,13 +101,14 @@ bool MainWindow::applyFormat(const QString &value)
     return format != nullptr;
 }
 
-bool MainWindow::applyChannelPiece(ChannelPane &pane, const Protocol::ReplyPiece &piece)
+MainWindow::PieceEffect MainWindow::applyChannelPiece(ChannelPane &pane,
+                                                      const Protocol::ReplyPiece &piece)
 {
     if (isAbout(piece, "highSounderMode")) {
-        return applyMode(pane, ReplyValues::letter(piece.value));
+        return applyMode(pane, ReplyValues::letter(piece.value)) ? PieceEffect::MovesLocks
+                                                                 : PieceEffect::Ignored;
     }
-    pane.showReply(piece, settings.isImperial());
-    return false;
+    return pane.showReply(piece, settings.isImperial()) ? PieceEffect::Shown : PieceEffect::Ignored;
 }
 
 bool MainWindow::applyMode(ChannelPane &pane, QChar mode)

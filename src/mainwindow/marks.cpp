@@ -32,6 +32,9 @@ QString markOf(const QWidget &control)
 
 QString wordsFor(const QWidget &control)
 {
+    if (!control.isEnabled()) {
+        return {}; // why it is locked matters more: what it waits for cannot be done
+    }
     if (control.property(waitingProperty).toBool()) {
         return waitingWords;
     }

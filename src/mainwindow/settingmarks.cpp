@@ -7,7 +7,7 @@
 #include "commonfields.h"
 #include "marks.h"
 
-#include <QAbstractButton>
+#include <QRadioButton>
 
 namespace {
 
@@ -41,6 +41,11 @@ QList<QWidget *> SettingMarks::controlsOf(const SettingSpec &setting) const
 
 QList<QWidget *> SettingMarks::controlsOf(const QString &key) const
 {
+    for (const ChannelPane *pane : {&high, &low}) {
+        if (key == pane->switchKey()) {
+            return {pane->enable, pane->disable};
+        }
+    }
     const SettingSpec *setting = SettingSpecs::find(key);
     return setting != nullptr ? controlsOf(*setting) : QList<QWidget *>();
 }
@@ -56,7 +61,7 @@ void SettingMarks::setApplied(const QString &key) const
 void SettingMarks::setNotApplied(const QString &key, const QString &words) const
 {
     for (QWidget *control : controlsOf(key)) {
-        const auto *const option = qobject_cast<QAbstractButton *>(control);
+        const auto *const option = qobject_cast<QRadioButton *>(control);
         if (option == nullptr || option->isChecked()) {
             Marks::setNotApplied(control, words);
         }
@@ -76,8 +81,16 @@ void SettingMarks::setTold(Protocol::ReplyKind line, QChar letter) const
     }
 }
 
+void SettingMarks::setSwitchTold(const ChannelPane &pane)
+{
+    Marks::setApplied(pane.enable);
+    Marks::setApplied(pane.disable);
+}
+
 void SettingMarks::clear() const
 {
+    setSwitchTold(high);
+    setSwitchTold(low);
     for (const SettingSpec &setting : SettingSpecs::all()) {
         setApplied(setting.key);
     }

@@ -27,6 +27,9 @@ public:
     /// It has not applied it; `words` say what it answered. The value stays as the operator set it.
     void setNotApplied(const QString &key, const QString &words) const;
 
+    /// The sounder has told whether it pings on this channel.
+    static void setSwitchTold(const ChannelPane &pane);
+
     /// A piece of the settings reply has been shown: that is what the sounder has.
     void setTold(Protocol::ReplyKind line, QChar letter) const;
 

@@ -10,9 +10,7 @@ void AnswerLedger::sent(const QString &key, qint64 now) { waiting.append({key, n
 QString AnswerLedger::answered()
 {
     if (waiting.isEmpty()) {
-        QString late;
-        late.swap(givenUp);
-        return late;
+        return givenUp.isEmpty() ? QString() : givenUp.takeFirst();
     }
     return waiting.takeFirst().key;
 }
@@ -21,9 +19,11 @@ QStringList AnswerLedger::giveUp(qint64 now)
 {
     QStringList keys;
     while (!waiting.isEmpty() && now - waiting.first().sentAt >= patience) {
-        givenUp = waiting.takeFirst().key;
-        keys.append(givenUp);
+        keys.append(waiting.takeFirst().key);
     }
+    givenUp += keys;
+    constexpr int mostLate = 16; // a sounder that has been silent for longer answers nothing of it
+    givenUp = givenUp.mid(std::max(0, givenUp.size() - mostLate));
     return keys;
 }
 

@@ -86,8 +86,6 @@ void CommandQueue::mergeRepeatsOfFirst()
     WINDOW_LOG << "result is " << pendingChanges;
 }
 
-void CommandQueue::noteCommandPastQueue() { noteSent(QString()); }
-
 void CommandQueue::noteSent(const QString &key)
 {
     ledger.sent(key, clock.elapsed());

@@ -43,8 +43,9 @@ public:
     /// The answer has come, or is no longer waited for.
     void endWaiting() { commandInFlight = false; }
 
-    /// A command has gone out past the queue: its answer comes in its turn.
-    void noteCommandPastQueue();
+    /// A command has gone out past the queue: its answer comes in its turn. `key` is what is told
+    /// of it; empty: nothing.
+    void noteCommandPastQueue(const QString &key) { noteSent(key); }
 
     /// An answer has come. The key of the setting whose change it answers; empty if it is none.
     QString takeAnswered();

@@ -198,11 +198,12 @@ void LinkSession::serialTimeout(bool excused)
     }
 }
 
-void LinkSession::sendAtOnce(const QString &announcement, const char *command, const Topic &topic)
+void LinkSession::sendAtOnce(const QString &announcement, const char *command, const Topic &topic,
+                             const QString &key)
 {
     infoLine.show(InfoColour::Progress, announcement, topic);
     serial.sendCommand(command);
-    commandQueue.noteCommandPastQueue();
+    commandQueue.noteCommandPastQueue(key);
 }
 
 void LinkSession::getLatestTemperature()

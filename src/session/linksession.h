@@ -82,8 +82,11 @@ public:
     /// The status is no longer shown: the next poll begins with the temperature.
     void forgetStatus() { shownStatus = Status::None; }
 
-    /// Announces a command that is not the change of one setting, and sends it at once.
-    void sendAtOnce(const QString &announcement, const char *command, const Topic &topic = {});
+    /// Announces a command that is not the change of one setting, and sends it at once. What comes
+    /// of it is told of `key` (settingAccepted, settingNotApplied) as of a setting; of an empty key
+    /// nothing is told.
+    void sendAtOnce(const QString &announcement, const char *command, const Topic &topic = {},
+                    const QString &key = {});
 
     /// The unit tells that it speaks at this rate. The link runs at it already: the port stays
     /// open.

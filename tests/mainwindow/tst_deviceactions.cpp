@@ -34,6 +34,7 @@ private slots:
     void factoryResetIsSentOnYesAndClosesTheLink();
     void factoryResetIsNotSent_data();
     void factoryResetIsNotSent();
+    void factoryResetIsNotAnnouncedWhenTheLinkWasLostMeanwhile();
     void refusedFactoryResetKeepsTheLink();
     void factoryResetOvertakesAChangeThatWaits();
     void saveToDeviceIsSentWithoutAQuestion();
@@ -115,6 +116,19 @@ void DeviceActionsTest::factoryResetIsNotSent()
     QVERIFY(!log.contains("Sending "));
     QCOMPARE(bench.info(), info);
     QVERIFY(bench.showsConnected());
+}
+
+void DeviceActionsTest::factoryResetIsNotAnnouncedWhenTheLinkWasLostMeanwhile()
+{
+    ReadyBench bench;
+    const BoxHand hand([&bench](QMessageBox &box) {
+        bench.sounder.hangUp();
+        QVERIFY(QTest::qWaitFor([&bench] { return !bench.showsConnected(); }));
+        press(box, QMessageBox::Yes);
+    });
+    bench.click("resetSettings");
+    QCOMPARE(hand.count(), 1);
+    QCOMPARE(bench.info(), QString("Lost Connection To Device"));
 }
 
 void DeviceActionsTest::refusedFactoryResetKeepsTheLink()

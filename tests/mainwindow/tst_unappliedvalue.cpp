@@ -23,7 +23,10 @@ private slots:
     void aRefusedValueIsMarkedUntilAnotherIsAccepted();
     void anUnansweredValueIsMarked_data();
     void anUnansweredValueIsMarked();
+    void anUnansweredSwitchIsMarkedUntilTheUnitTellsIt();
     void aLateAnswerTakesTheMarkAway();
+    void lateAnswersBelongToTheCommandsInTheirOrder();
+    void aSpoiltReplyLeavesTheMark();
     void aValueToldAnewIsNotMarked();
     void afterReconnectingNothingIsMarked();
     void answersBelongToTheCommandsInTheirOrder();
@@ -85,6 +88,8 @@ void UnappliedValueTest::aRefusedValueIsMarkedUntilAnotherIsAccepted_data()
     row("lowDetectUp", "*t", "lowDetectEdit", plain);
     row("highAutoRadio", "*c", "highAutoRadio", plain);
     row("lowOffTvg", "*l", "lowOffTvg", plain);
+    row("disableHF", "*hHHHHHHH", "disableHF", plain);
+    row("disableLF", "*hLLLLLLL", "disableLF", plain);
 }
 
 void UnappliedValueTest::aRefusedValueIsMarkedUntilAnotherIsAccepted()
@@ -100,7 +105,12 @@ void UnappliedValueTest::aRefusedValueIsMarkedUntilAnotherIsAccepted()
     QTEST(wordsAt(control), "words");
     if (!button.endsWith("Up") && !button.endsWith("Down")) {
         // An option that is chosen cannot be chosen again. Another one is accepted.
-        change(button.startsWith("high") ? "highManualRadio" : "lowLog10Tvg", command);
+        const QMap<QString, std::pair<QString, QByteArray>> others{
+            {"highAutoRadio", {"highManualRadio", "*c"}},
+            {"lowOffTvg", {"lowLog10Tvg", "*l"}},
+            {"disableHF", {"enableHF", "*bHHHHHHH"}},
+            {"disableLF", {"enableLF", "*bLLLLLLL"}}};
+        change(others[button].first, others[button].second);
         QVERIFY(bench->tell("OK"));
         QCOMPARE(wordsAt(control), QString());
         return;
@@ -130,6 +140,45 @@ void UnappliedValueTest::anUnansweredValueIsMarked()
     change("highDraftUp", "*o");
     QTRY_COMPARE(wordsAt("highDraft"), QString("Command Timed Out"));
     QVERIFY(bench->showsConnected());
+}
+
+/// The transducer may go on pinging, whatever the form shows.
+void UnappliedValueTest::anUnansweredSwitchIsMarkedUntilTheUnitTellsIt()
+{
+    QTimer pinging; // or the link would be taken for lost
+    QObject::connect(&pinging, &QTimer::timeout, &pinging,
+                     [this] { bench->say(" et B 00123 00131"); });
+    pinging.start(200);
+    change("disableHF", "*hHHHHHHH");
+    QTRY_COMPARE(wordsAt("disableHF"), QString("Command Timed Out"));
+    QVERIFY(bench->tell("*L1"));
+    QCOMPARE(wordsAt("disableHF"), QString("Command Timed Out"));
+    QVERIFY(bench->tell("*i5,H2")); // no answer that says on or off
+    QCOMPARE(wordsAt("disableHF"), QString("Command Timed Out"));
+    QVERIFY(bench->tell("*i5,H0"));
+    QCOMPARE(wordsAt("disableHF"), QString());
+}
+
+void UnappliedValueTest::lateAnswersBelongToTheCommandsInTheirOrder()
+{
+    change("highDraftUp", "*o");
+    change("highIndexUp", "*q");
+    QTRY_COMPARE(wordsAt("highDraft"), QString("Command Timed Out"));
+    QTRY_COMPARE(wordsAt("highIndex"), QString("Command Timed Out"));
+    QVERIFY(bench->tell("OK"));
+    QVERIFY(bench->tell("ERR"));
+    QCOMPARE(wordsAt("highDraft"), QString());
+    QCOMPARE(wordsAt("highIndex"), QString("Received Error - Command Not Applied"));
+}
+
+void UnappliedValueTest::aSpoiltReplyLeavesTheMark()
+{
+    change("lowOffTvg", "*l");
+    QVERIFY(bench->tell("ERR"));
+    QVERIFY(bench->tell("*Llx"));
+    QVERIFY2(!wordsAt("lowOffTvg").isEmpty(), "no gain law was told");
+    QVERIFY(bench->tell("*LlN"));
+    QCOMPARE(wordsAt("lowOffTvg"), QString());
 }
 
 void UnappliedValueTest::aLateAnswerTakesTheMarkAway()

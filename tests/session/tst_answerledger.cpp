@@ -14,7 +14,7 @@ private slots:
     void theFirstAnswerIsThatToTheOldestCommand();
     void anAnswerWithoutACommandIsNobodys();
     void whoWaitsTooLongIsGivenUpOldestFirst();
-    void aLateAnswerBelongsToTheCommandGivenUpLast();
+    void aLateAnswerBelongsToTheCommandGivenUp();
     void aLateAnswerCountsOnce();
     void theTimeLeftIsThatOfTheOldest();
     void clearedLedgerKnowsNothing();
@@ -52,12 +52,15 @@ void AnswerLedgerTest::whoWaitsTooLongIsGivenUpOldestFirst()
     QCOMPARE(ledger.answered(), QString("Velocity"));
 }
 
-void AnswerLedgerTest::aLateAnswerBelongsToTheCommandGivenUpLast()
+void AnswerLedgerTest::aLateAnswerBelongsToTheCommandGivenUp()
 {
     ledger.clear();
     ledger.sent("Ping", 0);
+    ledger.sent("Depth", 500);
     ledger.giveUp(2000);
+    ledger.giveUp(2500);
     QCOMPARE(ledger.answered(), QString("Ping"));
+    QCOMPARE(ledger.answered(), QString("Depth"));
 }
 
 void AnswerLedgerTest::aLateAnswerCountsOnce()
