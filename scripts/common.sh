@@ -39,7 +39,7 @@ build_packages=(g++ cmake ninja-build qtbase5-dev libqt5serialport5-dev fonts-de
 test_packages=(locales at-spi2-core dbus gir1.2-atspi-2.0 python3-gi xdotool xvfb)
 
 # What cross-building for Windows, running there and packing need; the fonts stand in for Windows' own.
-windows_packages=(cmake ninja-build g++-mingw-w64-x86-64-posix wine wine64 fonts-wine fonts-dejavu-core nsis zip
+windows_packages=(cmake ninja-build g++-mingw-w64-x86-64-posix wine wine64 fonts-wine fonts-dejavu-core nsis
     unzip xz-utils socat xvfb xauth xdotool)
 
 # configure PRESET [cmake options...]

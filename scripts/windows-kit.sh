@@ -7,12 +7,14 @@ windows_ports=$windows_build/ports # links to the terminals that stand behind Wi
 # Which of Wine's ports a test may use; each test program has ports of its own. One lies above COM9.
 windows_port_numbers=(5 7 8 9 12 13 14)
 
+[ -z "${TALVERO_WINDOWS_SDK:-}" ] || [ -e "$TALVERO_WINDOWS_SDK" ] ||
+    fail "TALVERO_WINDOWS_SDK names nothing: $TALVERO_WINDOWS_SDK"
+
 # given_kit: prints the kit for Windows that this machine holds: what TALVERO_WINDOWS_SDK names, or what stands
 # at ../shared/windows, or what scripts/windows-sdk has made. Fails if there is none.
 given_kit() {
     local place
     if [ -n "${TALVERO_WINDOWS_SDK:-}" ]; then
-        [ -e "$TALVERO_WINDOWS_SDK" ] || fail "TALVERO_WINDOWS_SDK names nothing: $TALVERO_WINDOWS_SDK"
         realpath "$TALVERO_WINDOWS_SDK"
         return
     fi
@@ -48,13 +50,22 @@ open_kit() {
     export TALVERO_WINDOWS_SDK=$folder/sdk
 }
 
+# configure_windows [cmake options...]: with warnings as errors; anew where the kit has changed.
+configure_windows() {
+    local cache=$windows_build/CMakeCache.txt
+    if [ -e "$cache" ] && ! grep -qx "TALVERO_WINDOWS_SDK:PATH=$TALVERO_WINDOWS_SDK" "$cache"; then
+        rm "$cache"
+    fi
+    TALVERO_WERROR=ON configure windows-cross "$@"
+}
+
 # use_wine PREFIX: makes a place for Wine there, unless one is, with a font that its own stand-in for Windows'
 # lacks, and COM ports that lead to what tests link in $windows_ports. Nothing is shown on a display.
 use_wine() {
     export WINEPREFIX=$1 WINEDEBUG=-all WINEDLLOVERRIDES="mscoree=d;mshtml=d;winemenubuilder.exe=d"
     unset DISPLAY
-    [ ! -e "$WINEPREFIX/talvero-ready" ] || return 0
-    local number
+    local number ready=$WINEPREFIX/talvero-ready
+    [ "$(cat "$ready" 2>/dev/null)" != "${windows_port_numbers[*]}" ] || return 0
     mkdir -p "$WINEPREFIX" "$windows_ports"
     wine wineboot -i >"$WINEPREFIX/wineboot.log" 2>&1
     ln -sf /usr/share/wine/fonts/tahoma*.ttf "$WINEPREFIX/drive_c/windows/Fonts/"
@@ -62,5 +73,5 @@ use_wine() {
         wine reg add 'HKLM\Software\Wine\Ports' /v "COM$number" /d "$windows_ports/line$number" /f
     done >"$WINEPREFIX/ports.log" 2>&1
     wineserver -w # Wine looks for ports when it starts
-    touch "$WINEPREFIX/talvero-ready"
+    echo "${windows_port_numbers[*]}" >"$ready"
 }

@@ -22,7 +22,7 @@ private slots:
     void everyLineBearsItsTime();
     void theFirstLineNamesVersionAndSystem();
     void aLineIsInTheFileAtOnce();
-    void otherScriptsAndLineEndsStay();
+    void umlautsAndOtherScriptsStay();
     void anotherRunIsAppended();
     void whoHadTheLogStillGetsIt();
     void theLogEndsWithTheObject();
@@ -108,7 +108,7 @@ void LogFileTest::aLineIsInTheFileAtOnce()
     QVERIFY(lines().last().endsWith("just before the crash"));
 }
 
-void LogFileTest::otherScriptsAndLineEndsStay()
+void LogFileTest::umlautsAndOtherScriptsStay()
 {
     const LogCapture quiet;
     const LogFile log(path);
