@@ -16,6 +16,8 @@
 #include <QTemporaryDir>
 #include <QTextStream>
 
+#include <optional>
+
 namespace {
 
 constexpr int failed = 1;
@@ -63,7 +65,45 @@ int conclude(const SoakJudge &judge, const SoakOperator &person)
     return complaints.isEmpty() ? 0 : failed;
 }
 
-int soak(const Wishes &wishes)
+/// The parts of a soak, wired.
+struct Soak
+{
+    Soak(const Wishes &wishes, const QString &port, QTextStream &figures)
+        : sounder(port, wishes.seconds)
+        , window([port] { return QStringList(port); })
+        , person(window, port, wishes.seed)
+        , judge(wishes.limits)
+    {
+        QObject::connect(&meter, &SoakMeter::beaten, &person, &SoakOperator::watch);
+        QObject::connect(&meter, &SoakMeter::sampled, &person, [&](const SoakSample &sample) {
+            judge.add(sample);
+            writeLine(figures, sample, person);
+        });
+        QObject::connect(&person, &SoakOperator::changeLost, &person, [this](const QString &key) {
+            QTextStream(stdout) << "No outcome for " << key << " in "
+                                << person.tally().counts().made << " changes\n";
+        });
+    }
+
+    void run(int seconds)
+    {
+        window.show();
+        WindowHand(window).click("openGraph");
+        // Opening its windows is the program's start, which is measured elsewhere.
+        QTimer::singleShot(1000, &meter, &SoakMeter::start);
+        QTimer::singleShot(1000, &person, &SoakOperator::start);
+        QTimer::singleShot(seconds * 1000, qApp, &QCoreApplication::quit);
+        QApplication::exec();
+    }
+
+    SoakSounder sounder;
+    MainWindow window;
+    SoakOperator person;
+    SoakMeter meter;
+    SoakJudge judge;
+};
+
+int runSoak(const Wishes &wishes)
 {
     QFile file(wishes.figures);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Text)) {
@@ -72,32 +112,40 @@ int soak(const Wishes &wishes)
     }
     QTextStream figures(&file);
     writeHeading(figures);
-
     const QTemporaryDir folder;
-    const QString port = folder.filePath("sounder");
-    SoakSounder sounder(port, wishes.seconds);
-    MainWindow window([port] { return QStringList(port); });
-    SoakOperator person(window, port, wishes.seed);
-    SoakMeter meter;
-    SoakJudge judge(wishes.limits);
-    QObject::connect(&meter, &SoakMeter::beaten, &person, &SoakOperator::watch);
-    QObject::connect(&meter, &SoakMeter::sampled, &person, [&](const SoakSample &sample) {
-        judge.add(sample);
-        writeLine(figures, sample, person);
-    });
-    QObject::connect(&person, &SoakOperator::changeLost, &person, [&](const QString &key) {
-        QTextStream(stdout) << "No outcome for " << key << " in " << person.tally().counts().made
-                            << " changes\n";
-    });
+    Soak soak(wishes, folder.filePath("sounder"), figures);
+    soak.run(wishes.seconds);
+    return conclude(soak.judge, soak.person);
+}
 
-    window.show();
-    WindowHand(window).click("openGraph");
-    // Opening its windows is the program's start, which is measured elsewhere.
-    QTimer::singleShot(1000, &meter, &SoakMeter::start);
-    QTimer::singleShot(1000, &person, &SoakOperator::start);
-    QTimer::singleShot(wishes.seconds * 1000, qApp, &QCoreApplication::quit);
-    QApplication::exec();
-    return conclude(judge, person);
+/// What the command line asks for; nothing if it cannot be understood.
+std::optional<Wishes> readWishes(const QApplication &application)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        "TAL-VERO Connect beside a simulated sounder with all faults, worked by an operator who "
+        "changes something every few seconds. Writes figures each second as comma-separated values "
+        "and fails if the memory grows, the window is away for too long, or a change has no "
+        "outcome.");
+    parser.addHelpOption();
+    parser.addOptions({
+        {"seconds", "How long (60).", "N", "60"},
+        {"seed", "What the operator's choices follow from (1).", "N", "1"},
+        {"absence", "Processor time that the window's thread may take in one go, in ms (100).",
+         "MS", "100"},
+    });
+    parser.addPositionalArgument("figures", "The file for the figures.");
+    parser.process(application);
+    Wishes wishes;
+    wishes.seconds = parser.value("seconds").toInt();
+    wishes.seed = parser.value("seed").toUInt();
+    wishes.limits.absenceCpuMs = parser.value("absence").toDouble();
+    wishes.figures = parser.positionalArguments().value(0);
+    if (parser.positionalArguments().size() != 1 || wishes.seconds <= 0) {
+        QTextStream(stderr) << parser.helpText();
+        return {};
+    }
+    return wishes;
 }
 
 } // namespace
@@ -107,32 +155,8 @@ int main(int argc, char **argv)
     prepareForHighDensity();
     startWithoutOpenGl();
     qputenv("QT_LOGGING_RULES", "default.debug=false");
-    QApplication application(argc, argv);
+    const QApplication application(argc, argv);
     giveProgramStyle();
-
-    QCommandLineParser parser;
-    parser.setApplicationDescription(
-        "TAL-VERO Connect beside a simulated sounder with all faults, worked by an operator who "
-        "changes something every few seconds. Writes figures each second as comma-separated values "
-        "and fails if the memory grows, the window is away for too long, or a change has no "
-        "outcome.");
-    parser.addHelpOption();
-    const QCommandLineOption seconds("seconds", "How long (60).", "N", "60");
-    const QCommandLineOption seed("seed", "What the operator's choices follow from (1).", "N", "1");
-    const QCommandLineOption absence(
-        "absence", "Processor time that the window's thread may take in one go, in ms (100).", "MS",
-        "100");
-    parser.addOptions({seconds, seed, absence});
-    parser.addPositionalArgument("figures", "The file for the figures.");
-    parser.process(application);
-    if (parser.positionalArguments().size() != 1 || parser.value(seconds).toInt() <= 0) {
-        QTextStream(stderr) << parser.helpText();
-        return wrongUsage;
-    }
-    Wishes wishes;
-    wishes.seconds = parser.value(seconds).toInt();
-    wishes.seed = parser.value(seed).toUInt();
-    wishes.limits.absenceCpuMs = parser.value(absence).toDouble();
-    wishes.figures = parser.positionalArguments().constFirst();
-    return soak(wishes);
+    const std::optional<Wishes> wishes = readWishes(application);
+    return wishes ? runSoak(*wishes) : wrongUsage;
 }

@@ -8,6 +8,8 @@
 
 #include <algorithm>
 #include <chrono>
+#include <csignal>
+#include <sys/prctl.h>
 
 namespace {
 
@@ -22,6 +24,8 @@ QString every(int soakSeconds, int share, int most)
 }
 
 } // namespace
+
+void BoundProcess::setupChildProcess() { prctl(PR_SET_PDEATHSIG, SIGTERM); }
 
 SoakSounder::SoakSounder(const QString &port, int soakSeconds, QObject *parent)
     : QObject(parent)
