@@ -119,7 +119,7 @@ void OperatorTour::addGraph(const QString &name)
         click("openGraph");
         soundings = 0;
     };
-    constexpr int someSoundings = 15; // a strip that can be seen
+    constexpr int someSoundings = 30; // more than the tour's reader looks at
     add(
         name, open, [this] { return soundings >= someSoundings; },
         [this] { return popup("Depth Graph"); });

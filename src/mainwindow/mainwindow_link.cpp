@@ -85,7 +85,6 @@ void MainWindow::followLink(SessionState state)
     if (state == SessionState::Offline) {
         SettingMarks(common, high, low).clear();
         showDepthsAlive(false);
-        soundings.forgetLink();
     }
     setConnectButton(state != SessionState::Offline);
 }

@@ -87,12 +87,6 @@ SoundingView Soundings::parseDepth(const QString &line, const SoundingContext &c
     return view;
 }
 
-void Soundings::forgetLink()
-{
-    lastHfDepth = DepthSentence::noDepth;
-    lastLfDepth = DepthSentence::noDepth;
-}
-
 void Soundings::remember(const DepthSentence::Depths &depths)
 {
     if (depths.form == DepthSentence::Form::DesoHigh) {

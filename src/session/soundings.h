@@ -45,9 +45,6 @@ public:
     /// view, or clears what its form says is not there.
     SoundingView parseDepth(const QString &line, const SoundingContext &context);
 
-    /// The link has ended: what was told over it makes no sounding with what is told over the next.
-    void forgetLink();
-
     /// A made-up sentence, the next point on a pair of slow waves.
     QString nextMadeUp();
 

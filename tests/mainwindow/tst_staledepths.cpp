@@ -44,7 +44,6 @@ private slots:
     void depthsOfALostLinkKeepTheirTextAndTurnGrey();
     void theNextSoundingIsAlive();
     void reconnectingAloneBringsNothingToLife();
-    void anOldDepthIsNoHalfOfANewSounding();
 
 private:
     QList<QLabel *> labels();
@@ -139,18 +138,6 @@ void StaleDepthsTest::reconnectingAloneBringsNothingToLife()
     for (QLabel *label : labels()) {
         QVERIFY2(isDrawnGrey(label), qPrintable(label->objectName() + " looks alive"));
     }
-}
-
-void StaleDepthsTest::anOldDepthIsNoHalfOfANewSounding()
-{
-    QVERIFY(bench->tell("DA00001.23 m"));
-    QVERIFY(bench->tell("DB00004.56 m"));
-    QCOMPARE(bench->text("lowDepthLabel"), QString("LF Depth: 4.56"));
-    bench->click("connectToDevice");
-    QVERIFY(bench->connectAs());
-    QVERIFY(bench->tell("DA00009.99 m"));
-    QCOMPARE(bench->text("highDepthLabel"), QString("HF Depth: 9.99"));
-    QCOMPARE(bench->text("lowDepthLabel"), QString());
 }
 
 QTEST_MAIN(StaleDepthsTest)

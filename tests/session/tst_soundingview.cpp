@@ -77,7 +77,6 @@ private slots:
     void theChosenFormatReadsWhatBearsNoMark();
     void twoSentencesMakeOneSounding();
     void theFirstOfTwoSentencesIsRemembered();
-    void whatAnEndedLinkToldMakesNoSounding();
     void theLengthOfASingleLowSentenceIsLogged();
     void madeUpSentencesFollowTwoWaves();
 };
@@ -241,16 +240,6 @@ void SoundingViewTest::theFirstOfTwoSentencesIsRemembered()
 
     Soundings others;
     QCOMPARE(others.parseDepth("DB00001.31 m", contextOf("")).highText.value_or(same), QString());
-}
-
-void SoundingViewTest::whatAnEndedLinkToldMakesNoSounding()
-{
-    Soundings soundings;
-    soundings.parseDepth("DB00001.31 m", contextOf(""));
-    soundings.forgetLink();
-    const SoundingView view = soundings.parseDepth("DA00009.99 m", contextOf(""));
-    QCOMPARE(view.highText.value_or(same), QString("HF Depth: 9.99"));
-    QCOMPARE(view.lowText.value_or(same), QString());
 }
 
 void SoundingViewTest::theLengthOfASingleLowSentenceIsLogged()
