@@ -3,6 +3,12 @@
 set(TALVERO_TEST_ENVIRONMENT
   QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8
   "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/leaks.supp:print_suppressions=0")
+if(WIN32)
+  list(APPEND TALVERO_TEST_ENVIRONMENT QT_FONT_DPI=96) # offscreen, a screen of Windows would have 100 dpi
+  if(NOT CMAKE_CROSSCOMPILING)
+    list(APPEND TALVERO_TEST_ENVIRONMENT "QT_QPA_FONTDIR=C:/Windows/Fonts") # it finds none by itself
+  endif()
+endif()
 
 # Tests are compiled as quickly as they allow: what they drive is optimised, they themselves hardly need it.
 set(talvero_test_options $<$<AND:$<CONFIG:Release>,$<NOT:$<CXX_COMPILER_ID:MSVC>>>:-O1>)

@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr int patienceMs = 10000;
+constexpr int patienceMs = 30000;
 
 /// Wine shows the machine's files as this drive.
 constexpr QLatin1String machine("Z:");
