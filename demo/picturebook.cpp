@@ -199,16 +199,60 @@ std::vector<Scene> allScenes()
     };
 }
 
-QString scaleWord() { return QString::number(qApp->devicePixelRatio(), 'g', 3) + 'x'; }
-
-bool save(QWidget *shown, const QDir &folder, const QString &name)
+/// A scene that the manual shows, and what its picture is called there.
+struct ManualPicture
 {
-    const QString file = QString("%1-%2x%3-%4.png")
-                             .arg(name)
-                             .arg(shown->width())
-                             .arg(shown->height())
-                             .arg(scaleWord());
-    const bool saved = shown->grab().save(folder.filePath(file));
+    const char *scene;
+    const char *file;
+};
+
+constexpr ManualPicture manualPictures[] = {
+    {"offline", "not-connected.png"},
+    {"searching", "searching.png"},
+    {"dual", "main-window.png"},
+    {"manual", "manual-mode.png"},
+    {"unsent", "marks.png"},
+    {"lost", "grey-depths.png"},
+    {"graph-metres", "depth-graph.png"},
+    {"help-short", "help.png"},
+    {"box-reset", "box-reset.png"},
+    {"box-port", "box-port.png"},
+};
+
+/// Null if the manual does not show the scene.
+const char *fileInManual(const QString &scene)
+{
+    for (const ManualPicture &picture : manualPictures) {
+        if (scene == QLatin1String(picture.scene)) {
+            return picture.file;
+        }
+    }
+    return nullptr;
+}
+
+QString fileName(const QWidget &shown, const QString &name, PictureChoice choice)
+{
+    if (choice == PictureChoice::Manual) {
+        return fileInManual(name);
+    }
+    return QString("%1-%2x%3-%4x.png")
+        .arg(name)
+        .arg(shown.width())
+        .arg(shown.height())
+        .arg(QString::number(qApp->devicePixelRatio(), 'g', 3));
+}
+
+/// Where the pictures go, and which of them.
+struct Order
+{
+    const QDir &folder;
+    PictureChoice choice;
+};
+
+bool save(QWidget *shown, const Order &order, const QString &name)
+{
+    const QString file = fileName(*shown, name, order.choice);
+    const bool saved = shown->grab().save(order.folder.filePath(file));
     QTextStream(stdout) << (saved ? "" : "Could not write ") << file << '\n';
     return saved;
 }
@@ -224,16 +268,16 @@ void giveSize(QWidget &window, QSize size)
 }
 
 /// A window that scrolls is shown at both its ends.
-bool takeWindow(PictureDesk &desk, QSize size, const QDir &folder, const QString &name)
+bool takeWindow(PictureDesk &desk, QSize size, const Order &order, const QString &name)
 {
     giveSize(desk.mainWindow(), size);
     QScrollBar *const bar =
         desk.mainWindow().findChild<QScrollArea *>("scrollArea")->verticalScrollBar();
     bar->setValue(bar->minimum());
-    bool taken = save(&desk.mainWindow(), folder, name);
-    if (bar->maximum() > bar->minimum()) {
+    bool taken = save(&desk.mainWindow(), order, name);
+    if (bar->maximum() > bar->minimum() && order.choice != PictureChoice::Manual) {
         bar->setValue(bar->maximum());
-        taken = save(&desk.mainWindow(), folder, name + "-end") && taken;
+        taken = save(&desk.mainWindow(), order, name + "-end") && taken;
     }
     return taken;
 }
@@ -250,7 +294,14 @@ SounderOptions optionsFor(const Scene &scene)
     return options;
 }
 
-bool take(const Scene &scene, const QDir &folder, PictureChoice choice)
+bool isTakenIn(const Scene &scene, QSize size, PictureChoice choice)
+{
+    const bool everySize = choice == PictureChoice::All ||
+                           (choice != PictureChoice::Manual && scene.extent == EverySize);
+    return everySize || size == sizes[0];
+}
+
+bool take(const Scene &scene, const Order &order)
 {
     PictureDesk desk(optionsFor(scene));
     desk.showTab(highTab);
@@ -260,20 +311,33 @@ bool take(const Scene &scene, const QDir &folder, PictureChoice choice)
     }
     if (scene.button != nullptr) {
         bool saved = false;
-        const auto look = [&](QWidget &box) { saved = save(&box, folder, scene.name); };
+        const auto look = [&](QWidget &box) { saved = save(&box, order, scene.name); };
         return good && desk.clickForBox(scene.button, look) && saved;
     }
     if (scene.extent == OwnSize) {
         QCoreApplication::processEvents();
-        return good && save(PictureDesk::popup(scene.title), folder, scene.name);
+        return good && save(PictureDesk::popup(scene.title), order, scene.name);
     }
-    const bool everySize = scene.extent == EverySize || choice == PictureChoice::All;
     for (const QSize size : sizes) {
-        if (everySize || size == sizes[0]) {
-            good = takeWindow(desk, size, folder, scene.name) && good;
+        if (isTakenIn(scene, size, order.choice)) {
+            good = takeWindow(desk, size, order, scene.name) && good;
         }
     }
     return good;
+}
+
+bool isWanted(const Scene &scene, PictureChoice choice)
+{
+    switch (choice) {
+    case PictureChoice::Dense:
+        return scene.extent != StartSize;
+    case PictureChoice::Manual:
+        return fileInManual(scene.name) != nullptr;
+    case PictureChoice::Usual:
+    case PictureChoice::All:
+        break;
+    }
+    return true;
 }
 
 } // namespace
@@ -282,8 +346,8 @@ int takePictures(const QDir &folder, PictureChoice choice)
 {
     int failures = 0;
     for (const Scene &scene : allScenes()) {
-        if (choice != PictureChoice::Dense || scene.extent != StartSize) {
-            failures += take(scene, folder, choice) ? 0 : 1;
+        if (isWanted(scene, choice)) {
+            failures += take(scene, {folder, choice}) ? 0 : 1;
         }
     }
     return failures;

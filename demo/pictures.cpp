@@ -24,7 +24,8 @@ int main(int argc, char **argv)
     parser.addHelpOption();
     const QCommandLineOption all("all", "Every state in every size.");
     const QCommandLineOption dense("dense", "Only what differs most from scale to scale.");
-    parser.addOptions({all, dense});
+    const QCommandLineOption manual("manual", "What the manual shows, by the names it uses.");
+    parser.addOptions({all, dense, manual});
     parser.addPositionalArgument("folder", "Where the pictures go.");
     parser.process(application);
     if (parser.positionalArguments().size() != 1) {
@@ -36,8 +37,9 @@ int main(int argc, char **argv)
         QTextStream(stderr) << "Could not make the folder " << folder.path() << '\n';
         return 1;
     }
-    const PictureChoice choice = parser.isSet(all)     ? PictureChoice::All
-                                 : parser.isSet(dense) ? PictureChoice::Dense
-                                                       : PictureChoice::Usual;
+    const PictureChoice choice = parser.isSet(all)      ? PictureChoice::All
+                                 : parser.isSet(dense)  ? PictureChoice::Dense
+                                 : parser.isSet(manual) ? PictureChoice::Manual
+                                                        : PictureChoice::Usual;
     return takePictures(folder, choice) == 0 ? 0 : 1;
 }

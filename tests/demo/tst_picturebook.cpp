@@ -17,6 +17,7 @@ private slots:
     void initTestCase() { giveProgramStyle(); }
 
     void picturesTellStateSizeAndScaleByTheirNames();
+    void theManualsPicturesBearTheNamesOfTheManual();
 };
 
 void tst_PictureBook::picturesTellStateSizeAndScaleByTheirNames()
@@ -41,6 +42,17 @@ void tst_PictureBook::picturesTellStateSizeAndScaleByTheirNames()
         const QStringList found = pictures.entryList({QString(other) + "-*-1x.png"});
         QVERIFY2(found.size() == 1, other);
     }
+}
+
+void tst_PictureBook::theManualsPicturesBearTheNamesOfTheManual()
+{
+    QTemporaryDir folder;
+    QVERIFY(folder.isValid());
+    const QDir pictures(folder.path());
+    QCOMPARE(takePictures(pictures, PictureChoice::Manual), 0);
+    const QStringList kept = QDir(MANUAL_PICTURES).entryList(QDir::Files);
+    QCOMPARE(pictures.entryList(QDir::Files), kept);
+    QCOMPARE(QImage(pictures.filePath("main-window.png")).size(), QSize(1136, 800));
 }
 
 QTEST_MAIN(tst_PictureBook)
