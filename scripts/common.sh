@@ -31,8 +31,9 @@ install_missing() {
         "${missing[@]}" >/dev/null
 }
 
-# What building and running need. The fonts stand in for those that a bare machine lacks.
-build_packages=(g++ cmake ninja-build qtbase5-dev libqt5serialport5-dev fonts-dejavu-core)
+# What building and running need; cmark-gfm makes the manual's page. The fonts stand in for those that a bare
+# machine lacks.
+build_packages=(g++ cmake ninja-build qtbase5-dev libqt5serialport5-dev cmark-gfm fonts-dejavu-core)
 
 # What the tests need besides: a locale that writes "0,5" (made from `locales`), and what stands between
 # the program and a screen reader.
