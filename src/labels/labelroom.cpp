@@ -4,6 +4,7 @@
 #include "labelroom.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QBoxLayout>
 #include <QEvent>
 #include <QLabel>
 #include <QPainter>
@@ -106,6 +107,20 @@ private:
     QLabel &label;
 };
 
+/// A label's place in a layout that does not ask the label.
+class HeldPlace : public QWidgetItem
+{
+public:
+    using QWidgetItem::QWidgetItem;
+
+    QSize sizeHint() const override { return wid->minimumSize(); }
+    QSize minimumSize() const override { return wid->minimumSize(); }
+    QSize maximumSize() const override { return wid->maximumSize(); }
+    void setGeometry(const QRect &place) override { wid->setGeometry(place); }
+    bool hasHeightForWidth() const override { return false; }
+    int heightForWidth(int /*width*/) const override { return -1; }
+};
+
 /// The width that the label asks for when it shows this text.
 int widthFor(QLabel &label, const QString &text)
 {
@@ -133,6 +148,18 @@ void keep(QLabel &label, const QString &longest)
     policy.setHorizontalPolicy(QSizePolicy::Ignored);
     label.setSizePolicy(policy);
     new Shortener(label);
+}
+
+void holdAsItIs(QLabel &label, const QString & /*longest*/)
+{
+    const auto layouts = label.parentWidget()->findChildren<QBoxLayout *>();
+    for (QBoxLayout *layout : layouts) {
+        const int place = layout->indexOf(&label);
+        if (place >= 0) {
+            delete layout->takeAt(place);
+            layout->insertItem(place, new HeldPlace(&label));
+        }
+    }
 }
 
 } // namespace LabelRoom

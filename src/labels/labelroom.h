@@ -20,6 +20,12 @@ void growUpTo(QLabel &label, const QString &longest);
 /// it shows.
 void keep(QLabel &label, const QString &longest);
 
+/// The label's smallest size is the room that the form gives it, and its layout asks for no other:
+/// a label that wraps works out several times for each new text how large it would like to be,
+/// which takes 25 ms for a long one. `longest` is not looked at. The label must stand in a box
+/// layout.
+void holdAsItIs(QLabel &label, const QString &longest);
+
 } // namespace LabelRoom
 
 #endif // LABELROOM_H

@@ -32,7 +32,7 @@ const DeviceLabel deviceLabels[] = {
     {&Ui::MainWindow::lowDepthLabel,    Qt::PlainText, LabelRoom::keep, "LF Depth: 888.88"},
     {&Ui::MainWindow::label_34,         Qt::PlainText, LabelRoom::growUpTo, "TAL-VERO Firmware Version: 88.88.88 (High Frequency Only)"},
     {&Ui::MainWindow::label_24,         Qt::PlainText, nullptr, nullptr}, // never shows more than eight characters
-    {&Ui::MainWindow::infoLabel,        Qt::RichText,  nullptr, nullptr}, // wraps in a room of its own
+    {&Ui::MainWindow::infoLabel,        Qt::RichText,  LabelRoom::holdAsItIs, nullptr}, // wraps in a room of its own
     {&Ui::MainWindow::temperatureLabel, Qt::RichText,  LabelRoom::growUpTo, "<font color=Green>TAL-VERO Temperature : -273\u00B0C</font>"},
 };
 // clang-format on

@@ -70,6 +70,7 @@ private slots:
     void whatDoesNotFitEndsInAnEllipsis_data();
     void whatDoesNotFitEndsInAnEllipsis();
     void theGroundOfAStyleSheetIsDrawn();
+    void aHeldLabelKeepsItsPlaceForAnyText();
 
 private:
     static void addRoads();
@@ -193,6 +194,23 @@ void LabelRoomTest::theGroundOfAStyleSheetIsDrawn()
     const QImage shown = picture(label, 100);
     QCOMPARE(shown.pixelColor(2, 2), QColor(10, 20, 30));
     QCOMPARE(shown.pixelColor(97, 15), QColor(10, 20, 30));
+}
+
+/// However much it says, nothing beside it moves.
+void LabelRoomTest::aHeldLabelKeepsItsPlaceForAnyText()
+{
+    Row row(LabelRoom::holdAsItIs);
+    row.label.setWordWrap(true);
+    row.label.setFixedHeight(36);
+    row.label.setMinimumWidth(50);
+    row.window.setFixedWidth(300);
+    row.window.show();
+    const QRect place = row.label.geometry();
+    const int narrowest = row.narrowest();
+    row.label.setText(QString("a long text that wraps, ").repeated(100));
+    QCOMPARE(row.narrowest(), narrowest);
+    QCOMPARE(row.window.layout()->hasHeightForWidth(), false);
+    QCOMPARE(row.label.geometry(), place);
 }
 
 QTEST_MAIN(LabelRoomTest)
