@@ -62,7 +62,6 @@ void FaultBench::begin()
     turns.reset();
 }
 
-/// What was said to a closed port would be heard by the next connection.
 void FaultBench::forgetWhatWasSaid()
 {
     const int port = ::open(line.slavePath().toLocal8Bit().constData(), O_RDWR | O_NOCTTY);

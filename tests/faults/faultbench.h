@@ -57,6 +57,9 @@ public:
     /// A row ends: disconnects if the fault has not. Empty, or which limit did not hold.
     QString end();
 
+    /// Takes back what was said while the port was closed: the next connection would hear it.
+    void forgetWhatWasSaid();
+
     /// Sends all of it, waiting for the window to read; false if the window does not read on.
     bool pour(const QByteArray &bytes);
 
@@ -104,7 +107,6 @@ private:
     };
 
     void letInfoGo();
-    void forgetWhatWasSaid();
     Holdings holdings();
     static double shareWhile(int milliseconds);
     static double idleShare();

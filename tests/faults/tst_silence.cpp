@@ -21,6 +21,12 @@ bool changesPings(FaultBench &bench)
     return bench.hears("*i06....");
 }
 
+/// With the patience that a real interval asks for.
+bool hearsAtLast(FaultBench &bench, const char *command)
+{
+    return FaultBench::waits([&] { return bench.line.received().contains(command); });
+}
+
 /// Lets the next poll come about.
 bool isPolled(FaultBench &bench)
 {
@@ -29,7 +35,7 @@ bool isPolled(FaultBench &bench)
     }
     bench.line.clearReceived();
     bench.timer("temperatureTimer")->start();
-    const bool isHeard = bench.hears("*UA");
+    const bool isHeard = hearsAtLast(bench, "*UA");
     bench.timer("temperatureTimer")->stop();
     return isHeard;
 }
@@ -40,7 +46,7 @@ bool isAskedWhetherItLives(FaultBench &bench)
         return false;
     }
     bench.line.clearReceived();
-    return bench.hears("*nasdfdsa");
+    return hearsAtLast(bench, "*nasdfdsa");
 }
 
 bool answersJustInTime(FaultBench &bench, const char *answer)
