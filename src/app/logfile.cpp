@@ -12,8 +12,8 @@
 
 namespace {
 
-constexpr QLatin1String option("--log");
-constexpr QLatin1String optionWithFile("--log=");
+const QLatin1String option("--log");
+const QLatin1String optionWithFile("--log=");
 
 } // namespace
 

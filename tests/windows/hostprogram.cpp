@@ -13,7 +13,7 @@ namespace {
 constexpr int patienceMs = 30000;
 
 /// Wine shows the machine's files as this drive.
-constexpr QLatin1String machine("Z:");
+const QLatin1String machine("Z:");
 
 } // namespace
 
