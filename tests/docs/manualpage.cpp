@@ -37,7 +37,8 @@ QString pathOf(const QString &path) { return QStringLiteral(PROJECT_FOLDER "/") 
 QString fileText(const QString &path)
 {
     QFile file(pathOf(path));
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    return file.open(QIODevice::ReadOnly | QIODevice::Text) ? QString::fromUtf8(file.readAll())
+                                                            : QString();
 }
 
 const QString &text()

@@ -75,20 +75,34 @@ bool isExcused(const Literal &literal)
 /// Sources whose texts stand beside the controls or in a window's title: the manual explains them
 /// where it comes to the control. All others speak in the info line, in boxes and in tooltips.
 constexpr const char *sourcesOfCaptions[] = {
-    "channelpane.cpp",     "fieldtips.cpp",          "mainwindow.cpp",
-    "mainwindow_link.cpp", "mainwindow_options.cpp", "mainwindow_slots.cpp",
-    "marks.cpp",           "soundings.cpp",          "unitstatus.cpp",
+    "channelpane.cpp",        "fieldtips.cpp", "mainwindow.cpp", "mainwindow_link.cpp",
+    "mainwindow_options.cpp", "marks.cpp",     "soundings.cpp",  "unitstatus.cpp",
 };
+
+bool isHelpTopic(const QString &text)
+{
+    const QVector<HelpTopic> topics = helpTopics();
+    return std::any_of(topics.begin(), topics.end(),
+                       [&text](const HelpTopic &topic) { return topic.title == text; });
+}
+
+bool isChoice(const QString &text)
+{
+    const std::vector<SettingSpec> &specs = SettingSpecs::all();
+    return std::any_of(specs.begin(), specs.end(),
+                       [&text](const SettingSpec &spec) { return spec.words.contains(text); });
+}
 
 bool isCaption(const Literal &literal)
 {
-    return std::any_of(std::begin(sourcesOfCaptions), std::end(sourcesOfCaptions),
+    return isHelpTopic(literal.text) || isChoice(literal.text) ||
+           std::any_of(std::begin(sourcesOfCaptions), std::end(sourcesOfCaptions),
                        [&literal](const char *file) { return literal.file == file; });
 }
 
 /// What stands in a text for good, without mark-up, a folder's end, and the places that are filled
 /// in. Less than a word is no text.
-QStringList fixedPieces(QString text)
+QStringList fixedPieces(const QString &text)
 {
     static const QRegularExpression filledIn(QStringLiteral(R"re(<[^>]*>?|%\w+|^/| \($)re"));
     static const QRegularExpression word(QStringLiteral("[A-Za-z]{3}"));
