@@ -108,7 +108,7 @@ const FaultRow pulls[] = {
          bench.click("resetSettings");
          return isReady && bench.isOffline();
      },
-     "Sending Factory Reset to Device", false},
+     lost, false},
     {"pulled and plugged in sixty times",
      [](FaultBench &bench) {
          const int times = shortOrLong(20, 60);
