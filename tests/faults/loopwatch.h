@@ -7,7 +7,8 @@
 #include <QObject>
 
 /// How long the window is away: the processor time that its thread spends between two turns of the
-/// event loop, in which no click would be answered.
+/// event loop, in which no click would be answered. On a virtual machine the time that its host
+/// took from it counts as the thread's own; what /proc/stat says was stolen meanwhile is left out.
 class LoopWatch : public QObject
 {
     Q_OBJECT
@@ -25,6 +26,7 @@ private:
     void turn();
 
     double lastTurn = 0;
+    double lastStolen = 0;
     double longest = 0;
 };
 
