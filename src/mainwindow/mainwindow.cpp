@@ -131,8 +131,6 @@ void hideWhatIsNotOffered(const Ui::MainWindow &form)
 MainWindow::MainWindow(PortLister portLister, QWidget *parent, PortDetails details)
     : QMainWindow(parent)
     , ui(formOn(*this))
-    , connectedIcon(":/resourcefiles/images/connected.png")
-    , notConnectedIcon(":/resourcefiles/images/not_connected.png")
     , settings(portLister())
     , session(
           settings, [this] { return linkChoices(*ui); }, this)

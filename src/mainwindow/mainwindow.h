@@ -237,10 +237,15 @@ private:
     void toggleFooter();
     void showHelp(const QString &topic);
 
-    std::unique_ptr<Ui::MainWindow> ui;
     // Made once: an icon made anew for each connection leaves some of its memory behind.
-    const QIcon connectedIcon;
-    const QIcon notConnectedIcon;
+    struct LinkIcons
+    {
+        QIcon connected{QStringLiteral(":/resourcefiles/images/connected.png")};
+        QIcon notConnected{QStringLiteral(":/resourcefiles/images/not_connected.png")};
+    };
+
+    std::unique_ptr<Ui::MainWindow> ui;
+    const LinkIcons linkIcons;
     Settings settings;
     LinkSession session;
     PortChooser ports;

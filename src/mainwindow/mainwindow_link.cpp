@@ -92,7 +92,7 @@ void MainWindow::followLink(SessionState state)
 void MainWindow::setConnectButton(bool connected)
 {
     ui->connectToDevice->setText(connected ? "Disconnect" : "Connect   ");
-    ui->connectToDevice->setIcon(connected ? connectedIcon : notConnectedIcon);
+    ui->connectToDevice->setIcon(connected ? linkIcons.connected : linkIcons.notConnected);
     if (connected) {
         ports.timer().stop();
     } else {
