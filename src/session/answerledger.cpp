@@ -10,7 +10,7 @@ void AnswerLedger::sent(const QString &key, qint64 now) { waiting.append({key, n
 QString AnswerLedger::answered()
 {
     if (waiting.isEmpty()) {
-        return givenUp.isEmpty() ? QString() : givenUp.takeFirst();
+        return givenUp.isEmpty() ? QString() : givenUp.takeFirst().key;
     }
     return waiting.takeFirst().key;
 }
@@ -19,11 +19,14 @@ QStringList AnswerLedger::giveUp(qint64 now)
 {
     QStringList keys;
     while (!waiting.isEmpty() && now - waiting.first().sentAt >= patience) {
-        keys.append(waiting.takeFirst().key);
+        keys.append(waiting.first().key);
+        givenUp.append(waiting.takeFirst());
     }
-    givenUp += keys;
-    constexpr int mostLate = 16; // a sounder that has been silent for longer answers nothing of it
-    givenUp = givenUp.mid(std::max(0, givenUp.size() - mostLate));
+    // One that was lost on the line must not take the late answer of another.
+    constexpr qint64 latest = 5 * patience;
+    while (!givenUp.isEmpty() && now - givenUp.first().sentAt > latest) {
+        givenUp.removeFirst();
+    }
     return keys;
 }
 

@@ -22,8 +22,8 @@ public:
     void sent(const QString &key, qint64 now);
 
     /// An answer has come: takes the command that it answers and returns its key. An answer that
-    /// nobody waits for any longer belongs to the oldest command given up; after those it belongs
-    /// to none.
+    /// nobody waits for any longer belongs to the oldest command given up of late; after those
+    /// it belongs to none.
     QString answered();
 
     /// Takes the commands that have waited too long, oldest first, and returns their keys.
@@ -43,7 +43,7 @@ private:
     };
 
     QList<Entry> waiting;
-    QStringList givenUp; // oldest first
+    QList<Entry> givenUp; // oldest first
 };
 
 #endif // ANSWERLEDGER_H

@@ -15,6 +15,7 @@ private slots:
     void anAnswerWithoutACommandIsNobodys();
     void whoWaitsTooLongIsGivenUpOldestFirst();
     void aLateAnswerBelongsToTheCommandGivenUp();
+    void aLateAnswerIsNotThatOfALongLostCommand();
     void aLateAnswerCountsOnce();
     void theTimeLeftIsThatOfTheOldest();
     void clearedLedgerKnowsNothing();
@@ -61,6 +62,18 @@ void AnswerLedgerTest::aLateAnswerBelongsToTheCommandGivenUp()
     ledger.giveUp(2500);
     QCOMPARE(ledger.answered(), QString("Ping"));
     QCOMPARE(ledger.answered(), QString("Depth"));
+}
+
+/// The first was lost on the line; what looks unanswered must go on looking so.
+void AnswerLedgerTest::aLateAnswerIsNotThatOfALongLostCommand()
+{
+    ledger.clear();
+    ledger.sent("Ping", 0);
+    ledger.giveUp(2000);
+    ledger.sent("Depth", 60000);
+    QCOMPARE(ledger.giveUp(62000), QStringList{"Depth"});
+    QCOMPARE(ledger.answered(), QString("Depth"));
+    QCOMPARE(ledger.answered(), QString());
 }
 
 void AnswerLedgerTest::aLateAnswerCountsOnce()
