@@ -4,11 +4,12 @@
 #ifndef LOOPWATCH_H
 #define LOOPWATCH_H
 
+#include "processortime.h"
+
 #include <QObject>
 
 /// How long the window is away: the processor time that its thread spends between two turns of the
-/// event loop, in which no click would be answered. On a virtual machine the time that its host
-/// took from it counts as the thread's own; what /proc/stat says was stolen meanwhile is left out.
+/// event loop, in which no click would be answered.
 class LoopWatch : public QObject
 {
     Q_OBJECT
@@ -25,8 +26,7 @@ public:
 private:
     void turn();
 
-    double lastTurn = 0;
-    double lastStolen = 0;
+    ProcessorTime::Stopwatch sinceTurn;
     double longest = 0;
 };
 
