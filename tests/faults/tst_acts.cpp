@@ -140,7 +140,8 @@ private:
 void TestActs::initTestCase()
 {
     bench = std::make_unique<FaultBench>();
-    bench->heapAllowed = FaultLimits::heapBytesWithGraph;
+    const int pixelsPerDot = qRound(bench->window.devicePixelRatioF());
+    bench->heapAllowed = FaultLimits::heapBytesWithGraph * pixelsPerDot * pixelsPerDot;
     bench->keepAnswerTime(250);
     bench->timer("commandTimer")->setInterval(20);
     QVERIFY(bench->connectReady());

@@ -99,6 +99,17 @@ const State states[] = {
          desk.click("selectRateInfo");
          return isReady;
      }},
+    {"while a question is open, as when the desk's session ends",
+     [](const Desk &desk) {
+         const bool isReady = desk.connectsReady();
+         bool wasAsked = false;
+         QTimer::singleShot(100, &desk.window, [&] {
+             wasAsked = QApplication::activeModalWidget() != nullptr;
+             QApplication::closeAllWindows();
+         });
+         desk.click("resetSettings");
+         return isReady && wasAsked;
+     }},
     {"after the cable is pulled",
      [](const Desk &desk) {
          const bool isReady = desk.connectsReady();
