@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: MIT
 
 #include "appearance.h"
+#include "copyofprogram.h"
 #include "dialoghand.h"
 #include "logcapture.h"
 #include "readybench.h"
 
 #include <QAbstractButton>
 #include <QMessageBox>
-#include <QProcess>
 #include <QTemporaryDir>
 
 namespace {
@@ -179,29 +179,13 @@ void FirmwareUpdateTest::theProgramGoesOn()
     QCOMPARE(bench.takeCommands(), QByteArrayList{"*p17...H"});
 }
 
-namespace {
-
-/// Runs a copy of this program in a folder of its own, with the updater beside it, and gives its
-/// result. The folder goes when the copy has ended.
-int runBesideUpdater(const QStringList &arguments)
-{
-    const QTemporaryDir folder;
-    const QString copy = folder.filePath("tst_firmwareupdate");
-    if (!QFile::copy(QCoreApplication::applicationFilePath(), copy) ||
-        !write(folder.path() + updaterName, updaterScript)) {
-        qCritical("the private copy cannot be made");
-        return 1;
-    }
-    return QProcess::execute(copy, arguments);
-}
-
-} // namespace
-
 int main(int argc, char **argv)
 {
     QApplication application(argc, argv);
     if (!QFile::exists(appPath(updaterName))) {
-        return runBesideUpdater(QCoreApplication::arguments().mid(1));
+        const QTemporaryDir folder;
+        return runCopyIn(folder.path(),
+                         [&folder] { return write(folder.path() + updaterName, updaterScript); });
     }
     FirmwareUpdateTest test;
     return QTest::qExec(&test, argc, argv);

@@ -5,8 +5,8 @@
 
 #include "appearance.h"
 #include "comwindow.h"
+#include "copyofprogram.h"
 
-#include <QProcess>
 #include <QTemporaryDir>
 
 namespace {
@@ -56,28 +56,15 @@ void ComUpdaterTest::getsThePortAloneAndOutlivesTheWindow()
     QVERIFY2(sounder.heard().endsWith("*updater"), sounder.heard());
 }
 
-namespace {
-
-int runBesideUpdater(const QStringList &arguments)
-{
-    const QTemporaryDir folder;
-    const QDir boat(folder.filePath(QStringLiteral("Vermessung Süd 2")));
-    const QString copy = boat.filePath("tst_comupdater.exe");
-    if (!boat.mkpath(".") || !QFile::copy(QCoreApplication::applicationFilePath(), copy) ||
-        !QFile::copy(QStringLiteral(UPDATER_STANDIN), boat.path() + updaterName)) {
-        qCritical("the private copy cannot be made");
-        return 1;
-    }
-    return QProcess::execute(copy, arguments);
-}
-
-} // namespace
-
 int main(int argc, char **argv)
 {
     QApplication application(argc, argv);
     if (!QFile::exists(beside(updaterName))) {
-        return runBesideUpdater(QCoreApplication::arguments().mid(1));
+        const QTemporaryDir folder;
+        const QString boat = folder.filePath(QStringLiteral("Vermessung Süd 2"));
+        return runCopyIn(boat, [&boat] {
+            return QFile::copy(QStringLiteral(UPDATER_STANDIN), boat + updaterName);
+        });
     }
     ComUpdaterTest test;
     return QTest::qExec(&test, argc, argv);
