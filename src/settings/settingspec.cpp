@@ -245,8 +245,10 @@ constexpr bool areComplete()
     return true;
 }
 
+#ifndef __SANITIZE_ADDRESS__ // with UndefinedBehaviorSanitizer GCC knows no function's address yet
 static_assert(areComplete(),
               "a row has no name, no range or words, a unit without a suffix, or lacks a function");
+#endif
 
 SettingSpec specOf(const Row &row)
 {
