@@ -3,12 +3,11 @@
 
 // A line that brings more than is ever taken: an adapter that ignores its rate, noise without end.
 
+#include "heapinuse.h"
 #include "processortime.h"
 #include "seriallink.h"
 
 #include <QtTest>
-
-#include <malloc.h>
 
 #include <algorithm>
 
@@ -16,12 +15,6 @@ namespace {
 
 constexpr int most = ReceiveBuffer::mostBytes;
 const QString tooFast = QStringLiteral("More arrives than can be read: dropped bytes:");
-
-qint64 heapInUse()
-{
-    const struct mallinfo2 heap = mallinfo2();
-    return static_cast<qint64>(heap.uordblks + heap.hblkhd);
-}
 
 /// Lines of the same length, numbered so that a missing one is seen.
 QByteArray numberedLine(int number) { return QByteArray::number(number).rightJustified(62, '.'); }

@@ -3,6 +3,7 @@
 
 #include "faultbench.h"
 
+#include "heapinuse.h"
 #include "processortime.h"
 
 #include <QApplication>
@@ -12,7 +13,6 @@
 #include <QtTest>
 
 #include <fcntl.h>
-#include <malloc.h>
 #include <termios.h>
 #include <unistd.h>
 
@@ -28,12 +28,6 @@ constexpr std::pair<const char *, int> intervals[] = {{"timeoutTimer", 2000},
 constexpr int realAnswerTime = 2000;
 
 int openFiles() { return QDir("/proc/self/fd").entryList(QDir::System).size(); }
-
-qint64 heapInUse()
-{
-    const struct mallinfo2 heap = mallinfo2();
-    return static_cast<qint64>(heap.uordblks + heap.hblkhd);
-}
 
 } // namespace
 
