@@ -39,6 +39,11 @@ build_packages=(g++ cmake ninja-build qtbase5-dev libqt5serialport5-dev cmark-gf
 # the program and a screen reader.
 test_packages=(locales at-spi2-core dbus gir1.2-atspi-2.0 python3-gi xdotool xvfb)
 
+# What packing for Linux needs, what looking at the packages does, and what trying them on a bare Debian does.
+linux_packages=(dpkg-dev rpm)
+linux_check_packages=(appstream cpio desktop-file-utils lintian man-db openbox rpm2cpio wmctrl xdotool xvfb)
+bare_debian_packages=(debootstrap openbox wmctrl xdotool xvfb)
+
 # What cross-building for Windows, running there and packing need; the fonts stand in for Windows' own.
 windows_packages=(cmake ninja-build g++-mingw-w64-x86-64-posix wine wine64 fonts-wine fonts-dejavu-core nsis
     unzip xz-utils socat xvfb xauth xdotool)
