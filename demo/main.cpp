@@ -4,14 +4,21 @@
 #include "appearance.h"
 #include "mainwindow.h"
 #include "operatortour.h"
+#include "programcall.h"
 #include "ptysounder.h"
 #include "screenfit.h"
 
 #include <QApplication>
-#include <QCommandLineParser>
 #include <QTextStream>
 
 namespace {
+
+const ProgramFace face{
+    QStringLiteral("tal-vero-connect-demo"),
+    QStringLiteral("TAL-VERO Connect beside a simulated sounder."),
+    {{QStringLiteral("tour"), QStringLiteral("DIR"),
+      QStringLiteral("Plays an operator's tour; its pictures go to DIR.")}},
+};
 
 /// Between the device's rate and its factory setting, so that the search has something to pass.
 SounderOptions demoSounder()
@@ -78,23 +85,20 @@ void keepLogOff() { qputenv("QT_LOGGING_RULES", "default.debug=false"); }
 
 int main(int argc, char **argv)
 {
+    if (const auto exitCode = answerCall(face, argc, argv)) {
+        return *exitCode;
+    }
     prepareForHighDensity();
     startWithoutOpenGl();
     keepLogOff();
     QApplication application(argc, argv);
     giveProgramStyle();
 
-    QCommandLineParser parser;
-    parser.setApplicationDescription("TAL-VERO Connect beside a simulated sounder.");
-    parser.addHelpOption();
-    const QCommandLineOption tour("tour", "Plays an operator's tour; its pictures go to <folder>.",
-                                  "folder");
-    parser.addOption(tour);
-    parser.process(application);
-
     PtySounder sounder(demoSounder());
     if (!sounder.isOpen()) {
         return reportMissingTerminal();
     }
-    return parser.isSet(tour) ? playTour(sounder, parser.value(tour)) : openWindow(sounder);
+    const QString pictures =
+        readCall(face, QApplication::arguments()).values.value(QStringLiteral("tour"));
+    return pictures.isEmpty() ? openWindow(sounder) : playTour(sounder, pictures);
 }

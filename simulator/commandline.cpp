@@ -4,6 +4,7 @@
 #include "commandline.h"
 
 #include "depthformats.h"
+#include "programcall.h"
 #include "soundersettings.h"
 
 #include <QCommandLineParser>
@@ -169,10 +170,13 @@ CommandLine readCommandLine(const QStringList &arguments)
     QCommandLineParser parser;
     addOptions(parser);
     const QCommandLineOption help = parser.addHelpOption();
+    const QCommandLineOption version = parser.addVersionOption();
     if (!parser.parse(arguments)) {
         line.problem = parser.errorText();
     } else if (parser.isSet(help)) {
         line.wantedText = parser.helpText();
+    } else if (parser.isSet(version)) {
+        line.wantedText = versionText(QStringLiteral("tal-vero-sounder"));
     } else {
         line.options.soundings = !parser.isSet(QLatin1String(noSoundings));
         line.problem = takeValues(parser, line);

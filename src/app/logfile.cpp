@@ -10,27 +10,6 @@
 #include <QMutexLocker>
 #include <QSysInfo>
 
-namespace {
-
-const QLatin1String option("--log");
-const QLatin1String optionWithFile("--log=");
-
-} // namespace
-
-QString wantedLogFile(const QStringList &arguments)
-{
-    QString path;
-    for (int place = 1; place < arguments.size(); ++place) {
-        const QString &argument = arguments.at(place);
-        if (argument == option) {
-            path = arguments.value(++place);
-        } else if (argument.startsWith(optionWithFile)) {
-            path = argument.mid(optionWithFile.size());
-        }
-    }
-    return path;
-}
-
 LogFile::LogFile(const QString &path)
     : file(path)
 {

@@ -6,11 +6,7 @@
 
 #include <QFile>
 #include <QMutex>
-#include <QStringList>
-
-/// The file that "--log FILE" or "--log=FILE" among the program's arguments names, the last one if
-/// there are several; empty if there is none. "--log" alone, at the end, names none.
-QString wantedLogFile(const QStringList &arguments);
+#include <QString>
 
 /// For as long as it lives, appends the debug log to a file, each line with its time: a windowed
 /// program on Windows shows it nowhere else. What had the log before still gets it. There is one at

@@ -17,8 +17,6 @@ class LogFileTest : public QObject
 private slots:
     void init();
 
-    void argumentsNameTheFile_data();
-    void argumentsNameTheFile();
     void everyLineBearsItsTime();
     void theFirstLineNamesVersionAndSystem();
     void aLineIsInTheFileAtOnce();
@@ -50,28 +48,6 @@ QStringList LogFileTest::lines() const
         return {};
     }
     return QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts);
-}
-
-void LogFileTest::argumentsNameTheFile_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<QString>("file");
-    QTest::newRow("(nothing)") << QStringList{} << "";
-    QTest::newRow("--log C:/a b/x.log") << QStringList{"--log", "C:/a b/x.log"} << "C:/a b/x.log";
-    QTest::newRow("--log=x.log") << QStringList{"--log=x.log"} << "x.log";
-    QTest::newRow("-style fusion --log x.log")
-        << QStringList{"-style", "fusion", "--log", "x.log"} << "x.log";
-    QTest::newRow("--log a --log b") << QStringList{"--log", "a", "--log", "b"} << "b";
-    QTest::newRow("--log") << QStringList{"--log"} << "";
-    QTest::newRow("--log=") << QStringList{"--log="} << "";
-    QTest::newRow("--logs x.log") << QStringList{"--logs", "x.log"} << "";
-    QTest::newRow("x.log") << QStringList{"x.log"} << "";
-}
-
-void LogFileTest::argumentsNameTheFile()
-{
-    QFETCH(QStringList, arguments);
-    QTEST(wantedLogFile(QStringList{"--log=program"} + arguments), "file");
 }
 
 void LogFileTest::everyLineBearsItsTime()

@@ -3,6 +3,7 @@
 
 #include "commandline.h"
 #include "depthformats.h"
+#include "version.h"
 
 #include <QtTest>
 
@@ -28,6 +29,7 @@ private slots:
     void mistakes_data();
     void mistakes();
     void help();
+    void version();
 };
 
 void TestCommandLine::nothingGiven()
@@ -125,6 +127,13 @@ void TestCommandLine::help()
                                "--fault", "--link", "--port", "--transcript", "--no-soundings"}) {
         QVERIFY2(line.wantedText.contains(QLatin1String(option)), option);
     }
+}
+
+void TestCommandLine::version()
+{
+    const CommandLine line = readArguments({"--version"});
+    QCOMPARE(line.problem, QString());
+    QCOMPARE(line.wantedText, QString("tal-vero-sounder ") + TalVero::version);
 }
 
 QTEST_GUILESS_MAIN(TestCommandLine)
