@@ -2,11 +2,12 @@
 // SPDX-License-Identifier: MIT
 
 #include "appearance.h"
+#include "deskplaces.h"
 #include "mainwindow.h"
 #include "operatortour.h"
 #include "programcall.h"
 #include "ptysounder.h"
-#include "screenfit.h"
+#include "sounderpanel.h"
 
 #include <QApplication>
 #include <QTextStream>
@@ -45,13 +46,16 @@ int reportMissingTerminal()
     return 1;
 }
 
-int openWindow(const PtySounder &sounder)
+int openWindow(PtySounder &sounder)
 {
-    MainWindow window([&sounder] { return systemSerialPorts() << sounder.portPath(); });
+    MainWindow window([&sounder] { return systemSerialPorts() + portsOf(sounder); });
+    SounderPanel panel(sounder);
     QTextStream(stdout) << "A simulated sounder waits at " << sounder.portPath()
-                        << ": choose that port and \"Auto\", then press Connect.\n";
-    fitToScreen(window);
-    window.show();
+                        << ": choose that port and \"Auto\", then press Connect.\n"
+                        << "The panel beside the window lets things go wrong.\n";
+    placeSideBySide(window, panel);
+    panel.show();
+    window.show(); // last, so that it has the keyboard
     return QApplication::exec();
 }
 

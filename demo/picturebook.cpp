@@ -3,6 +3,7 @@
 
 #include "picturebook.h"
 
+#include "deskpicture.h"
 #include "picturedesk.h"
 
 #include <QApplication>
@@ -217,6 +218,7 @@ constexpr ManualPicture manualPictures[] = {
     {"help-short", "help.png"},
     {"box-reset", "box-reset.png"},
     {"box-port", "box-port.png"},
+    {"desk", "desk.png"}, // of the README
 };
 
 /// Null if the manual does not show the scene.
@@ -349,6 +351,11 @@ int takePictures(const QDir &folder, PictureChoice choice)
         if (isWanted(scene, choice)) {
             failures += take(scene, {folder, choice}) ? 0 : 1;
         }
+    }
+    if (choice == PictureChoice::Manual) {
+        const QString file = fileInManual("desk");
+        failures += takeDeskPicture(folder.filePath(file)) ? 0 : 1;
+        QTextStream(stdout) << file << '\n';
     }
     return failures;
 }

@@ -17,6 +17,7 @@ public:
     explicit PictureDesk(const SounderOptions &options);
 
     MainWindow &mainWindow() { return window; }
+    PtySounder &itsSounder() { return sounder; }
 
     /// Chooses the sounder's port and this rate.
     void choosePort(const char *rate = "9600");

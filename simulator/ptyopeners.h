@@ -16,7 +16,7 @@ public:
     PtyOpeners(const PtyOpeners &) = delete;
     PtyOpeners &operator=(const PtyOpeners &) = delete;
 
-    /// Counts the openers from now on.
+    /// Counts the openers of this terminal from now on, and those of no other.
     void watch(const QString &path);
 
     /// Brings the count up to date. Returns true if somebody has closed the terminal since the last
@@ -29,6 +29,8 @@ public:
     bool any() const { return count > 0; }
 
 private:
+    void forget();
+
     int watcher = -1;
     int count = 0;
 };

@@ -12,20 +12,24 @@
 #include <array>
 #include <cstring>
 
-PtyOpeners::~PtyOpeners()
+PtyOpeners::~PtyOpeners() { forget(); }
+
+void PtyOpeners::forget()
 {
     if (watcher >= 0) {
         ::close(watcher);
+        watcher = -1;
     }
+    count = 0;
 }
 
 void PtyOpeners::watch(const QString &path)
 {
+    forget();
     watcher = inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
     if (watcher >= 0 &&
         inotify_add_watch(watcher, QFile::encodeName(path).constData(), IN_OPEN | IN_CLOSE) < 0) {
-        ::close(watcher);
-        watcher = -1;
+        forget();
     }
 }
 

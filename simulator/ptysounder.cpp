@@ -73,22 +73,30 @@ bool makeOurs(int descriptor)
 PtySounder::PtySounder(const SounderOptions &options, QObject *parent)
     : SounderLine(options, parent)
 {
-    if (!openTerminal()) {
-        closeTerminal();
-        return;
-    }
-    openers.watch(path);
-    notifier = new QSocketNotifier(master, QSocketNotifier::Read, this);
-    connect(notifier, &QSocketNotifier::activated, this, &PtySounder::readTerminal);
-    start();
+    plugIn();
 }
 
 PtySounder::~PtySounder()
 {
     closeTerminal();
-    if (slave >= 0) {
-        ::close(slave);
+    closeSlave();
+}
+
+bool PtySounder::plugIn()
+{
+    if (isOpen()) {
+        return true;
     }
+    closeSlave();
+    if (!openTerminal()) {
+        closeTerminal();
+        return false;
+    }
+    openers.watch(path);
+    notifier = new QSocketNotifier(master, QSocketNotifier::Read, this);
+    connect(notifier, &QSocketNotifier::activated, this, &PtySounder::readTerminal);
+    start();
+    return true;
 }
 
 bool PtySounder::openTerminal()
@@ -116,6 +124,14 @@ void PtySounder::closeTerminal()
     if (master >= 0) {
         ::close(master);
         master = -1;
+    }
+}
+
+void PtySounder::closeSlave()
+{
+    if (slave >= 0) {
+        ::close(slave);
+        slave = -1;
     }
 }
 

@@ -26,8 +26,12 @@ public:
     QString portPath() const override { return path; }
     bool isOpen() const override { return master >= 0; }
 
-    /// The cable is pulled: whoever has the port open sees it vanish.
+    /// The cable is pulled: whoever has the port open sees it vanish. The device goes on.
     void hangUp() override;
+
+    /// Plugs the pulled cable in again, at a portPath() that may be another one. False if the
+    /// system gives no pseudo-terminal. Does nothing if the cable is not out.
+    bool plugIn();
 
 protected:
     int rateOnLine() override;
@@ -37,6 +41,7 @@ protected:
 private:
     bool openTerminal();
     void closeTerminal();
+    void closeSlave();
     void readTerminal();
     void admitOtherOpeners();
 

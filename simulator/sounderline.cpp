@@ -38,7 +38,9 @@ SounderLine::SounderLine(const SounderOptions &options, QObject *parent)
 
 void SounderLine::start()
 {
-    clock.start();
+    if (!clock.isValid()) { // a device whose line comes back has not stood still
+        clock.start();
+    }
     timer.start(idleTick);
 }
 
@@ -71,6 +73,7 @@ void SounderLine::tick()
     }
     device.advance(now());
     if (device.hangUpIsDue()) {
+        device.setFault(QStringLiteral("hang-up"), 0); // it comes once
         hangUp();
         return;
     }

@@ -49,7 +49,7 @@ signals:
     void hungUp();
 
 protected:
-    /// To be called by the subclass once its line is open.
+    /// To be called by the subclass once its line is open, and when it is open again.
     void start();
 
     /// To be called by the subclass when bytes have arrived.

@@ -136,6 +136,14 @@ void SounderModel::reboot()
     rebootAt = timeFrom(clock, misbehaviour.rebootAfterS);
 }
 
+void SounderModel::setFit(SounderFit fit)
+{
+    made.fit = fit;
+    kept.highOn = hasChannel(fit, SounderChannel::High);
+    kept.lowOn = hasChannel(fit, SounderChannel::Low);
+    reboot();
+}
+
 /// The rate must stay until the answer to the command that changes it has left.
 void SounderModel::followRate()
 {

@@ -49,6 +49,10 @@ public:
 
     SounderFit fit() const { return made.fit; }
 
+    /// Another unit takes this one's place and starts: it carries these channels, all switched on,
+    /// and has kept the same settings.
+    void setFit(SounderFit fit);
+
     /// What the device holds; a test may change it directly.
     SounderSettings &settings() { return current; }
     const SounderSettings &settings() const { return current; }

@@ -24,7 +24,7 @@ from gi.repository import Atspi, GLib  # noqa: E402
 PATIENCE = 30  # seconds
 
 # What Qt makes of our controls. A list that drops down bears its name on the list.
-CONTROL_ROLES = {"push button", "radio button", "slider", "text", "list", "page tab list"}
+CONTROL_ROLES = {"check box", "push button", "radio button", "slider", "text", "list", "page tab list"}
 
 # Of Qt's own making.
 NOT_OURS = {"Scroll Left", "Scroll Right"}

@@ -46,6 +46,9 @@ private slots:
     void hangUpIsSeenAtTheOtherEnd();
     void hangUpFault();
     void hangUpFromASlot();
+    void pluggedInAgainItHasItsSettings();
+    void pluggedInAgainTheOldPortIsNobodys();
+    void pluggingInTwiceIsOnce();
     void memoryLasts();
     void savingUnchangedSettingsLastsToo();
     void brokenMemoryIsReportedAndIgnored();
@@ -213,6 +216,51 @@ void TestPtySounder::hangUpFromASlot()
     computer.send("*n123456*n123456");
     QTRY_VERIFY(!sounder.isOpen());
     QTRY_VERIFY(computer.hasFailed);
+}
+
+void TestPtySounder::pluggedInAgainItHasItsSettings()
+{
+    PtySounder sounder(quiet());
+    sounder.model().setFault(QStringLiteral("hang-up"), 0.2); // once, and not at every plugging in
+    {
+        Computer computer(sounder.portPath());
+        computer.send("*i06....");
+        QTRY_COMPARE(computer.heard, QByteArray("OK\r\n"));
+        QTRY_VERIFY(computer.hasFailed);
+    }
+    QVERIFY(sounder.plugIn());
+    QVERIFY(sounder.isOpen());
+    Computer computer(sounder.portPath());
+    computer.send("*n123456");
+    QTRY_COMPARE(computer.heard, banner);
+    QCOMPARE(sounder.model().settings().pings, 6);
+    QVERIFY(!computer.hasFailed);
+}
+
+/// Whoever still has it open, hears and reaches nobody.
+void TestPtySounder::pluggedInAgainTheOldPortIsNobodys()
+{
+    PtySounder sounder(quiet());
+    Computer old(sounder.portPath());
+    sounder.hangUp();
+    QVERIFY(sounder.plugIn());
+    old.send("*i06....");
+    Computer computer(sounder.portPath());
+    computer.send("*n123456");
+    QTRY_COMPARE(computer.heard, banner);
+    QCOMPARE(old.heard, QByteArray());
+    QCOMPARE(sounder.model().settings().pings, 5);
+}
+
+void TestPtySounder::pluggingInTwiceIsOnce()
+{
+    PtySounder sounder(quiet());
+    const QString path = sounder.portPath();
+    Computer computer(path);
+    QVERIFY(sounder.plugIn());
+    QCOMPARE(sounder.portPath(), path);
+    computer.send("*n123456");
+    QTRY_COMPARE(computer.heard, banner);
 }
 
 void TestPtySounder::memoryLasts()

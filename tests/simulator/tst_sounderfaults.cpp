@@ -41,6 +41,9 @@ private slots:
     void rebootWhileRunning();
     void rebootComesAgain();
     void hangUpFallsDueOnce();
+    void otherChannelsComeWithARestart_data();
+    void otherChannelsComeWithARestart();
+    void channelsThatComeBackAreOn();
     void sameSeedSameFaults();
 };
 
@@ -258,6 +261,49 @@ void TestSounderFaults::hangUpFallsDueOnce()
     QVERIFY(!bench.model.hangUpIsDue());
     bench.listen(1);
     QVERIFY(bench.model.hangUpIsDue());
+}
+
+void TestSounderFaults::otherChannelsComeWithARestart_data()
+{
+    QTest::addColumn<int>("fit");
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<QByteArray>("lines");
+    QTest::newRow("high alone") << int(SounderFit::HighOnly) << QByteArray("HF")
+                                << QByteArray("H1,L0");
+    QTest::newRow("low alone") << int(SounderFit::LowOnly) << QByteArray("LF")
+                               << QByteArray("H0,L1");
+}
+
+void TestSounderFaults::otherChannelsComeWithARestart()
+{
+    QFETCH(int, fit);
+    QFETCH(QByteArray, name);
+    QFETCH(QByteArray, lines);
+    ModelBench bench;
+    bench.ask("*i06....");
+    bench.model.setFit(SounderFit(fit));
+    bench.send("*n123456");
+    QCOMPARE(bench.listen(1400), QByteArray());
+    bench.listen(200);
+    QCOMPARE(bench.ask("*n123456"), "TalVero New " + name + " 2.14.7\r\n");
+    const QByteArray reply = bench.ask("*Gasdfds");
+    QVERIFY2(reply.startsWith("*i5,"), "what was not kept is still there");
+    QVERIFY2(reply.contains(lines), reply.constData());
+    QCOMPARE(reply.count("\r\n"), 2);
+}
+
+void TestSounderFaults::channelsThatComeBackAreOn()
+{
+    ModelBench bench;
+    bench.ask("*o00700L");
+    bench.ask("*F345678");
+    bench.model.setFit(SounderFit::HighOnly);
+    bench.listen(1600);
+    QCOMPARE(bench.ask("*o00800L"), QByteArray("ERR\r\n"));
+    bench.model.setFit(SounderFit::Dual);
+    bench.listen(1600);
+    const QByteArray reply = bench.ask("*Gasdfds");
+    QVERIFY2(reply.contains("H1,L1") && reply.contains("Lo00700"), reply.constData());
 }
 
 void TestSounderFaults::sameSeedSameFaults()
