@@ -167,6 +167,9 @@ void TestReceiveBounds::memoryHasABound()
 
 void TestReceiveBounds::memoryComesBackWithoutDisconnecting()
 {
+    if (qEnvironmentVariableIsSet("TALVERO_UNDER_VALGRIND")) {
+        QSKIP("valgrind keeps the heap itself, and tells no figures of it");
+    }
     ReceiveBuffer buffer;
     const qint64 before = heapInUse();
     buffer.append(QByteArray(most - 2, 'A'));
