@@ -84,7 +84,7 @@ PtySounder::~PtySounder()
 
 bool PtySounder::plugIn()
 {
-    if (isOpen()) {
+    if (PtySounder::isOpen()) { // the constructor asks, too
         return true;
     }
     closeSlave();

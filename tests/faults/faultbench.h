@@ -16,9 +16,9 @@
 /// What no fault may cost, whatever it is. Times are this thread's own processor time, so that a
 /// busy machine does not count.
 namespace FaultLimits {
-constexpr double absenceMs = 100;                      ///< between two turns of the event loop
-constexpr qint64 heapBytes = 256 * 1024;               ///< caches come and go by so much
-constexpr qint64 heapBytesWithGraph = 3 * 1024 * 1024; ///< the graph keeps its picture
+constexpr double absenceMs = 100;                        ///< between two turns of the event loop
+constexpr qint64 heapBytes = 256LL * 1024;               ///< caches come and go by so much
+constexpr qint64 heapBytesWithGraph = 3LL * 1024 * 1024; ///< the graph keeps its picture
 constexpr int files = 0;
 constexpr int objects = 0;
 constexpr double idleShare = 0.02; ///< of a core, once the link is closed

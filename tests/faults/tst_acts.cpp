@@ -8,10 +8,12 @@
 
 #include "dialoghand.h"
 
+#include <QAbstractButton>
 #include <QComboBox>
 #include <QDialog>
 #include <QLineEdit>
 #include <QSlider>
+#include <QtTest>
 
 #include <random>
 
