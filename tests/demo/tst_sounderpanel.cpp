@@ -27,6 +27,8 @@ SounderOptions soundingUnit()
     return options;
 }
 
+DepthPair alwaysBothDepths(double /*seconds*/) { return {12.0, 13.0}; }
+
 /// The program's window and the panel beside it, and who works both.
 struct Desk : WindowBench
 {
@@ -188,6 +190,7 @@ void TestSounderPanel::channelsOfAnotherUnitAreGrey()
     SounderOptions options = soundingUnit();
     options.fit = hasHigh && hasLow ? SounderFit::HighOnly : SounderFit::Dual;
     Desk desk(options);
+    desk.device().setDepthSource(alwaysBothDepths);
     QVERIFY(desk.connectToSounder());
     desk.press(choice);
     const auto pingsOnItsChannels = [&] {
@@ -206,7 +209,7 @@ void TestSounderPanel::noiseDoesNoHarm()
 {
     Desk desk(soundingUnit());
     desk.device().settings().pings = 10;
-    desk.device().setDepthSource([](double) { return DepthPair{12.0, 13.0}; });
+    desk.device().setDepthSource(alwaysBothDepths);
     QVERIFY(desk.connectToSounder());
     int spoilt = 0;
     int wrong = 0;
