@@ -11,10 +11,11 @@ set(adoptions "        [A-Za-z0-9_]+->(setWidget|addTab)\\(([A-Za-z0-9_]+)[^\n]*
 set(filled "")
 while(form MATCHES "${adoptions}")
   set(adoption "${CMAKE_MATCH_0}")
-  set(named "        ${CMAKE_MATCH_2}->setObjectName(QString::fromUtf8(\"${CMAKE_MATCH_2}\"));\n")
-  string(FIND "${form}" "${named}" at)
-  if(at EQUAL -1)
-    message(FATAL_ERROR "${IN} does not name ${CMAKE_MATCH_2} where it makes it")
+  set(page ${CMAKE_MATCH_2})
+  # Qt 5's compiler makes a QString of the name, Qt 6's does not.
+  string(REGEX MATCH "        ${page}->setObjectName\\((QString::fromUtf8\\()?\"${page}\"\\)+;\n" named "${form}")
+  if(NOT named)
+    message(FATAL_ERROR "${IN} does not name ${page} where it makes it")
   endif()
   string(REPLACE "${adoption}" "" form "${form}")
   string(REPLACE "->" "-->" held "${adoption}") # so that it is not found again

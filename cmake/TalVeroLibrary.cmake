@@ -10,7 +10,7 @@ function(talvero_form variable file)
   file(MAKE_DIRECTORY ${CMAKE_CURRENT_BINARY_DIR}/uic)
   add_custom_command(
     OUTPUT ${header}
-    COMMAND Qt5::uic -o ${generated} ${form}
+    COMMAND Qt${TALVERO_QT}::uic -o ${generated} ${form}
     COMMAND ${CMAKE_COMMAND} -D IN=${generated} -D OUT=${header} -P ${adopt}
     DEPENDS ${form} ${adopt}
     COMMENT "Generating ui_${name}.h"

@@ -34,7 +34,7 @@ endfunction()
 
 # talvero_knows_widgets(VARIABLE libraries...): whether one of them is, or is made with, Qt Widgets.
 function(talvero_knows_widgets variable)
-  talvero_reaches(knows Qt5::Widgets ${ARGN})
+  talvero_reaches(knows Qt${TALVERO_QT}::Widgets ${ARGN})
   set(${variable} ${knows} PARENT_SCOPE)
 endfunction()
 
@@ -52,8 +52,8 @@ endfunction()
 talvero_precompiled(talvero_core_headers
   <QByteArray> <QDir> <QFile> <QHash> <QList> <QMap> <QObject> <QString> <QStringList> <QTextStream>
   <QTimer> <QVector>
-  LINK Qt5::Core)
+  LINK Qt${TALVERO_QT}::Core)
 talvero_precompiled(talvero_widget_headers
   <QApplication> <QComboBox> <QLabel> <QLineEdit> <QMessageBox> <QPainter> <QPushButton>
   <QRadioButton> <QScrollArea> <QSlider> <QTabWidget>
-  LINK Qt5::Widgets)
+  LINK Qt${TALVERO_QT}::Widgets)

@@ -1,6 +1,6 @@
 # What a release for Windows holds, for scripts/package: all in one folder, since the program looks for the
 # firmware updater beside itself, and Qt as DLLs that anybody may replace. Only the cross-build packs.
-if(NOT WIN32 OR NOT TALVERO_WINDOWS_SDK OR NOT PROJECT_IS_TOP_LEVEL)
+if(NOT WIN32 OR NOT TALVERO_WINDOWS_SDK OR NOT PROJECT_IS_TOP_LEVEL OR NOT TALVERO_QT EQUAL 5)
   return()
 endif()
 

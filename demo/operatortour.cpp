@@ -9,6 +9,7 @@
 #include <QAbstractButton>
 #include <QLabel>
 #include <QPixmap>
+#include <QRegularExpression>
 #include <QTextDocumentFragment>
 #include <QTextStream>
 #include <QtTest>
@@ -25,7 +26,7 @@ constexpr std::chrono::milliseconds patience = 20s;
 QString fileName(int number, const QString &stepName)
 {
     QString words = stepName.toLower();
-    words.replace(QRegExp("[^a-z0-9]+"), "-");
+    words.replace(QRegularExpression("[^a-z0-9]+"), "-");
     return QString("%1-%2.png").arg(number, 2, 10, QLatin1Char('0')).arg(words);
 }
 

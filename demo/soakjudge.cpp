@@ -15,7 +15,8 @@ template <typename Value>
 Value median(const QVector<SoakSample> &samples, int from, int count, Value SoakSample::*field)
 {
     QVector<Value> values;
-    for (int i = std::max(0, from); i < std::min(samples.size(), from + count); ++i) {
+    for (int i = std::max(0, from); i < std::min(static_cast<int>(samples.size()), from + count);
+         ++i) {
         values.append(samples.at(i).*field);
     }
     if (values.isEmpty()) {

@@ -139,7 +139,7 @@ void SoakOperator::closeBoxes()
 void SoakOperator::change()
 {
     constexpr int tries = 4;
-    const int before = session.queue().waiting().size();
+    const auto before = session.queue().waiting().size();
     for (int i = 0; i < tries && session.queue().waiting().size() == before; ++i) {
         (this->*habit())();
     }

@@ -8,8 +8,6 @@
 
 #include <algorithm>
 #include <chrono>
-#include <csignal>
-#include <sys/prctl.h>
 
 namespace {
 
@@ -24,8 +22,6 @@ QString every(int soakSeconds, int share, int most)
 }
 
 } // namespace
-
-void BoundProcess::setupChildProcess() { prctl(PR_SET_PDEATHSIG, SIGTERM); }
 
 SoakSounder::SoakSounder(const QString &port, int soakSeconds, QObject *parent)
     : QObject(parent)
@@ -59,10 +55,12 @@ SoakSounder::~SoakSounder()
     sounder.waitForFinished();
 }
 
-/// Each time its chances fall otherwise.
+/// Each time its chances fall otherwise. It ends with this program, however that ends.
 void SoakSounder::plugIn()
 {
     ++timesPluggedIn;
-    sounder.start(QCoreApplication::applicationDirPath() + "/tal-vero-sounder",
-                  words + QStringList{"--seed", QString::number(timesPluggedIn)});
+    const QStringList boundToUs{"--pdeathsig", "TERM",
+                                QCoreApplication::applicationDirPath() + "/tal-vero-sounder"};
+    sounder.start("setpriv",
+                  boundToUs + words + QStringList{"--seed", QString::number(timesPluggedIn)});
 }

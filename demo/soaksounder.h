@@ -7,16 +7,6 @@
 #include <QObject>
 #include <QProcess>
 
-/// A program that ends with the one that started it, however that ends.
-class BoundProcess : public QProcess
-{
-public:
-    using QProcess::QProcess;
-
-protected:
-    void setupChildProcess() override;
-};
-
 /// A simulated sounder with every fault, seldom each, as a process of its own, so that what it uses
 /// up is not the program's. When its cable has been pulled, it is plugged in again.
 class SoakSounder : public QObject
@@ -32,7 +22,7 @@ public:
 private:
     void plugIn();
 
-    BoundProcess sounder;
+    QProcess sounder;
     QStringList words;
     int timesPluggedIn = 0;
 };

@@ -71,7 +71,7 @@ QString takeMemory(const QString &value, CommandLine &line)
 /// A probability that is not given is certainty; a time must be given.
 QString takeFault(const QString &value, CommandLine &line)
 {
-    const int equals = value.indexOf(QLatin1Char('='));
+    const auto equals = value.indexOf(QLatin1Char('='));
     bool isNumber = false;
     const double number = value.mid(equals + 1).toDouble(&isNumber);
     if (equals >= 0 && !isNumber) {

@@ -43,7 +43,7 @@ QByteArray LineSender::take(int rate, Milliseconds now)
         if (head.byteByByte) {
             allowed = std::min(allowed, left.isEmpty() ? 1 : 0);
         }
-        const int count = std::min(allowed, head.bytes.size());
+        const int count = std::min(allowed, static_cast<int>(head.bytes.size()));
         left += head.bytes.left(count);
         head.bytes.remove(0, count);
         allowed -= count;

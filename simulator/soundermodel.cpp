@@ -65,7 +65,7 @@ QByteArrayList SounderModel::receive(const QByteArray &bytes, int rateOnLine, Mi
         return {};
     }
     if (rateOnLine != activeRate) {
-        log.count(QStringLiteral("noise"), bytes.count('*'));
+        log.count(QStringLiteral("noise"), static_cast<int>(bytes.count('*')));
         reader.clear();
         return {};
     }
@@ -236,7 +236,7 @@ void SounderModel::say(LineSender::Line line)
 QByteArray SounderModel::spoilt(QByteArray text)
 {
     constexpr double share = 0.25;
-    const int certain = static_cast<int>(roll() * text.size());
+    const int certain = static_cast<int>(roll() * static_cast<double>(text.size()));
     for (int i = 0; i < text.size(); ++i) {
         if (i == certain || roll() < share) {
             text[i] = static_cast<char>(unprintable(random()) | '\x80');

@@ -5,6 +5,7 @@
 
 #include "focusring.h"
 #include "myproxystyle.h"
+#include "qtdifferences.h"
 
 #include <QApplication>
 #include <QFont>
@@ -12,8 +13,7 @@
 
 void prepareForHighDensity()
 {
-    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QtDifferences::askForHighDensity();
 #ifdef Q_OS_WIN
     // There the operator chooses 125 % or 150 %. Elsewhere the factor comes from the screen's
     // measured density, and a factor such as 1.04 would only blur the images.

@@ -48,7 +48,7 @@ Depths readKestrola(const QString &line, const Context & /*context*/)
 
 Depths readOdom(const QString &line, const Context & /*context*/)
 {
-    const int at = line.indexOf(QLatin1String(" et"));
+    const int at = static_cast<int>(line.indexOf(QLatin1String(" et")));
     return {Form::Odom, fiveDigits(line, at + 7), fiveDigits(line, at + 13)};
 }
 
@@ -86,7 +86,8 @@ Depths readDesoLow(const QString &line, const Context &context)
 
 Depths readSingleLow(const QString &line, const Context & /*context*/)
 {
-    return {Form::SingleLow, noDepth, fiveDigits(line, line.indexOf(QLatin1Char('e')) + 1)};
+    return {Form::SingleLow, noDepth,
+            fiveDigits(line, static_cast<int>(line.indexOf(QLatin1Char('e'))) + 1)};
 }
 
 /// Nothing in a SONARMITE sentence marks it as one: the chosen format decides.

@@ -21,35 +21,21 @@ Facts factsOf(const QSerialPort &port)
 
 QString words(const Facts &facts)
 {
-    switch (facts.error) {
-    case QSerialPort::DeviceNotFoundError:
+    if (facts.error == QSerialPort::DeviceNotFoundError) {
         return QStringLiteral("The port is no longer there. Check the cable, then choose the port "
                               "again.");
-    case QSerialPort::PermissionError:
-        if (!facts.isOffLimits) {
-            return QStringLiteral("Another program is using this port. Close that program, then "
-                                  "try again.");
-        }
-        return facts.group.isEmpty()
-                   ? QStringLiteral("You have no permission to use this port.")
-                   : "You have no permission to use this port. Join the group \"" + facts.group +
-                         "\" (sudo usermod -a -G " + facts.group +
-                         " $USER), then log out and in again.";
-    case QSerialPort::NoError:
-    case QSerialPort::OpenError:
-    case QSerialPort::ParityError:
-    case QSerialPort::FramingError:
-    case QSerialPort::BreakConditionError:
-    case QSerialPort::WriteError:
-    case QSerialPort::ReadError:
-    case QSerialPort::ResourceError:
-    case QSerialPort::UnsupportedOperationError:
-    case QSerialPort::UnknownError:
-    case QSerialPort::TimeoutError:
-    case QSerialPort::NotOpenError:
-        break;
     }
-    return "The system says: " + facts.systemText;
+    if (facts.error != QSerialPort::PermissionError) {
+        return "The system says: " + facts.systemText;
+    }
+    if (!facts.isOffLimits) {
+        return QStringLiteral("Another program is using this port. Close that program, then "
+                              "try again.");
+    }
+    return facts.group.isEmpty() ? QStringLiteral("You have no permission to use this port.")
+                                 : "You have no permission to use this port. Join the group \"" +
+                                       facts.group + "\" (sudo usermod -a -G " + facts.group +
+                                       " $USER), then log out and in again.";
 }
 
 } // namespace PortTrouble

@@ -3,7 +3,7 @@
 
 #include "protocol.h"
 
-#include <QRegExp>
+#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -68,10 +68,11 @@ Banner readBanner(const QString &line)
     Banner banner;
     banner.namesTalVero =
         line.contains(QLatin1String("Talvero")) || line.contains(QLatin1String("TalVero"));
-    QRegExp version(QStringLiteral("(\\d{1,2}.\\d{1,2}.\\d{1,2})"));
-    if (version.indexIn(line) >= 0) {
-        banner.firmwareVersion = version.cap(1);
-    }
+    // Digits of any script, and anything between them.
+    static const QRegularExpression version(QStringLiteral("\\d{1,2}.\\d{1,2}.\\d{1,2}"),
+                                            QRegularExpression::UseUnicodePropertiesOption |
+                                                QRegularExpression::DotMatchesEverythingOption);
+    banner.firmwareVersion = version.match(line).captured();
     banner.fit = firstMark(line, fitMarks, ChannelFit::Unknown);
     return banner;
 }
@@ -87,9 +88,9 @@ QStringList replyPieces(const QString &line)
 {
     constexpr int most = 1000;
     QStringList pieces;
-    int begin = std::min(1, line.size());
+    int begin = line.isEmpty() ? 0 : 1;
     for (int comma = 0; comma >= 0 && pieces.size() < most; begin = comma + 1) {
-        comma = line.indexOf(QLatin1Char(','), begin);
+        comma = static_cast<int>(line.indexOf(QLatin1Char(','), begin));
         pieces.append(line.mid(begin, comma - begin));
     }
     return pieces;

@@ -95,7 +95,7 @@ ReceiveBuffer::Search ReceiveBuffer::examine(LineEnd lineEnd, int from)
     }
     work += bytes.size() - from;
     // The second half of a pair may be still to come.
-    return {std::max(from, bytes.size() - patternLength(lineEnd) + 1), false};
+    return {std::max(from, static_cast<int>(bytes.size()) - patternLength(lineEnd) + 1), false};
 }
 
 /// Gives up what has been taken, once it outweighs what waits: so each byte is moved at most about

@@ -47,7 +47,7 @@ public:
     void clear();
 
     /// The bytes that wait.
-    int size() const { return bytes.size() - head; }
+    int size() const { return static_cast<int>(bytes.size()) - head; }
 
     /// Bytes examined and moved since construction: the measure of what receiving costs.
     qint64 workDone() const { return work; }

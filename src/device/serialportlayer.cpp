@@ -9,6 +9,7 @@
 
 #include <QSignalBlocker>
 
+#include <algorithm>
 #include <chrono>
 
 using namespace std::chrono_literals;
@@ -20,29 +21,19 @@ constexpr auto silenceTime = 10000ms;
 constexpr std::chrono::milliseconds dropsLogPause = 1s;
 constexpr int commandLength = 8;
 
-/// Whether an open port that raises this error is lost. A pulled cable shows itself as one or
-/// another of them, depending on the system and the driver.
+/// What an open port may raise and yet be there. A pulled cable shows itself as one or another of
+/// all others, depending on the system and the driver.
+constexpr QSerialPort::SerialPortError harmlessErrors[] = {
+    QSerialPort::NoError,
+    QSerialPort::NotOpenError,
+    QSerialPort::TimeoutError,
+    QSerialPort::UnsupportedOperationError,
+};
+
 bool meansPortIsGone(QSerialPort::SerialPortError error)
 {
-    switch (error) {
-    case QSerialPort::NoError:
-    case QSerialPort::NotOpenError:
-    case QSerialPort::TimeoutError:
-    case QSerialPort::UnsupportedOperationError:
-        return false;
-    case QSerialPort::DeviceNotFoundError:
-    case QSerialPort::PermissionError:
-    case QSerialPort::OpenError:
-    case QSerialPort::ParityError:
-    case QSerialPort::FramingError:
-    case QSerialPort::BreakConditionError:
-    case QSerialPort::WriteError:
-    case QSerialPort::ReadError:
-    case QSerialPort::ResourceError:
-    case QSerialPort::UnknownError:
-        return true;
-    }
-    return true;
+    return std::find(std::begin(harmlessErrors), std::end(harmlessErrors), error) ==
+           std::end(harmlessErrors);
 }
 
 } // namespace

@@ -163,7 +163,7 @@ void drawSample(PixelStrokes &strokes, const PlacedSample &sample)
 int rowsInBand(const QImage &canvas)
 {
     constexpr int bytesInBand = 512 * 1024;
-    return std::max(1, bytesInBand / canvas.bytesPerLine());
+    return std::max(1, bytesInBand / static_cast<int>(canvas.bytesPerLine()));
 }
 
 /// Draws the samples on white. Two long connectors share most of their pixels' cache lines, but a

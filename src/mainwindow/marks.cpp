@@ -71,9 +71,9 @@ void set(QWidget *control, const char *property, const QVariant &value)
 void pointsForCommas(QLineEdit *edit)
 {
     const int cursor = edit->cursorPosition();
-    for (int at = edit->text().indexOf(QLatin1Char(',')); at >= 0;
+    for (auto at = edit->text().indexOf(QLatin1Char(',')); at >= 0;
          at = edit->text().indexOf(QLatin1Char(','), at + 1)) {
-        edit->setSelection(at, 1);
+        edit->setSelection(static_cast<int>(at), 1);
         edit->insert(QStringLiteral("."));
     }
     edit->setCursorPosition(cursor);

@@ -9,7 +9,7 @@ QStringList choices(const QStringList &rates) { return QStringList{notChosen, se
 
 std::optional<QString> next(const QStringList &choices, const QString &current)
 {
-    const int place = choices.indexOf(current) + 1;
+    const auto place = choices.indexOf(current) + 1;
     return place < choices.size() ? std::optional<QString>(choices.at(place)) : std::nullopt;
 }
 

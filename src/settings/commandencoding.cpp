@@ -70,7 +70,7 @@ float formatNumber(const QString &format)
 
 float baudCode(const QString &rate, const QStringList &rates)
 {
-    return static_cast<float>(std::max(0, rates.indexOf(rate) - 2));
+    return static_cast<float>(std::max(0, static_cast<int>(rates.indexOf(rate)) - 2));
 }
 
 float modeNumber(const QString &mode) { return mode == "Active" ? 1.0F : 0.0F; }

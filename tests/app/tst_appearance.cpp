@@ -4,6 +4,7 @@
 #include "appearance.h"
 #include "mainwindow.h"
 #include "myproxystyle.h"
+#include "qtdifferences.h"
 
 #include <QFontInfo>
 #include <QLabel>
@@ -30,8 +31,7 @@ private slots:
 
 void TestAppearance::denseDisplaysAreAskedForBeforeTheApplicationExists()
 {
-    QVERIFY(QApplication::testAttribute(Qt::AA_EnableHighDpiScaling));
-    QVERIFY(QApplication::testAttribute(Qt::AA_UseHighDpiPixmaps));
+    QVERIFY(QtDifferences::isHighDensityAskedFor());
 }
 
 void TestAppearance::windowsStartWithoutOpenGlUnlessItIsAskedFor()

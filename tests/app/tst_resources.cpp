@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "eyes.h"
+#include "qtdifferences.h"
 #include "resources.h"
 
 #include <QBitmap>
@@ -256,7 +257,7 @@ void ResourcesTest::imagesFitTheDensityOfTheDisplay()
 {
     QFETCH(QString, path);
     QFETCH(QSize, size);
-    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QtDifferences::askForHighDensity();
     QCOMPARE(QIcon(path).pixmap(size).size(), size * qApp->devicePixelRatio());
 }
 

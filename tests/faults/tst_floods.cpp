@@ -44,7 +44,8 @@ void TestFloods::aFloodOf()
 {
     QFETCH(QByteArray, bytes);
     QVERIFY(bench->connectReady());
-    bench->flood(bytes.repeated(std::max(1, 4096 / bytes.size())), shortOrLong(500, 20000));
+    bench->flood(bytes.repeated(std::max(1, 4096 / static_cast<int>(bytes.size()))),
+                 shortOrLong(500, 20000));
     QVERIFY2(bench->showsConnected(), qPrintable(bench->info()));
     bench->click("metricRadio"); // the window still takes a click
     bench->click("connectToDevice");

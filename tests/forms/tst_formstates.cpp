@@ -4,6 +4,7 @@
 #include "eyes.h"
 #include "formbench.h"
 #include "formeyes.h"
+#include "qtdifferences.h"
 
 #include <QPushButton>
 
@@ -95,7 +96,7 @@ class tst_FormStates : public QObject
 private slots:
     void initTestCase()
     {
-        QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+        QtDifferences::askForHighDensity();
         wearProgramStyle();
     }
 

@@ -6,6 +6,7 @@
 
 #include "reportbench.h"
 
+#include <QRegularExpression>
 #include <QTabWidget>
 
 #include <map>
@@ -33,7 +34,7 @@ public:
         for (const QString channel : {"high", "low"}) {
             for (const auto &[group, members] : channelGroups()) {
                 QStringList names = members;
-                names.replaceInStrings(QRegExp("^"), channel);
+                names.replaceInStrings(QRegularExpression("^"), channel);
                 all[channel + " " + group] = names;
             }
         }

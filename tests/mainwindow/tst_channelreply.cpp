@@ -4,6 +4,7 @@
 #include "logcapture.h"
 #include "replybench.h"
 
+#include <QRegularExpression>
 #include <QtTest>
 
 #include <memory>
@@ -286,7 +287,7 @@ void TestChannelReply::oneChannelsLineLeavesTheOtherChannelAlone()
     QFETCH(QByteArray, line);
     QFETCH(QString, other);
     const Shown before = bench->everythingShown();
-    const QStringList others = QStringList(before.keys()).filter(QRegExp("^" + other));
+    const QStringList others = QStringList(before.keys()).filter(QRegularExpression("^" + other));
     QVERIFY(others.size() > 10);
     QVERIFY(bench->tell(line));
     for (const QString &name : others) {

@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 The TAL-VERO Connect developers
+// SPDX-License-Identifier: MIT
+
+#ifndef QTDIFFERENCES_H
+#define QTDIFFERENCES_H
+
+#include <QCoreApplication>
+
+/// What differs between Qt 5.15 and Qt 6. Nothing else asks for Qt's version.
+namespace QtDifferences {
+
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+
+/// Sharp text and images on high-density screens. Before the application object is made.
+inline void askForHighDensity()
+{
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+}
+
+inline bool isHighDensityAskedFor()
+{
+    return QCoreApplication::testAttribute(Qt::AA_EnableHighDpiScaling) &&
+           QCoreApplication::testAttribute(Qt::AA_UseHighDpiPixmaps);
+}
+
+#else
+
+/// It is always given.
+inline void askForHighDensity() {}
+inline bool isHighDensityAskedFor() { return true; }
+
+#endif
+
+} // namespace QtDifferences
+
+#endif // QTDIFFERENCES_H
