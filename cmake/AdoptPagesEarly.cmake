@@ -1,4 +1,4 @@
-# cmake -D IN=... -D OUT=... -P AdoptPagesEarly.cmake: puts the pages of a generated form's scroll areas
+# cmake -D IN=... -D OUT=... -D QT=6 -P AdoptPagesEarly.cmake: puts the pages of a generated form's scroll areas
 # and tabs into their place as soon as they are made.
 #
 # The form compiler fills a page first and gives it to its scroll area or tabs then. At that moment Qt
@@ -22,4 +22,9 @@ while(form MATCHES "${adoptions}")
   string(REPLACE "${named}" "${named}${held}" form "${form}")
 endwhile()
 string(REPLACE "-->" "->" form "${form}")
+
+# Without its fourth number Qt 5 draws such a colour opaque, Qt 6 black.
+if(QT GREATER 5)
+  string(REGEX REPLACE "rgba\\(([0-9]+,[0-9]+,[0-9]+)\\)" "rgba(\\1,255)" form "${form}")
+endif()
 file(WRITE "${OUT}" "${form}")

@@ -11,7 +11,7 @@ function(talvero_form variable file)
   add_custom_command(
     OUTPUT ${header}
     COMMAND Qt${TALVERO_QT}::uic -o ${generated} ${form}
-    COMMAND ${CMAKE_COMMAND} -D IN=${generated} -D OUT=${header} -P ${adopt}
+    COMMAND ${CMAKE_COMMAND} -D IN=${generated} -D OUT=${header} -D QT=${TALVERO_QT} -P ${adopt}
     DEPENDS ${form} ${adopt}
     COMMENT "Generating ui_${name}.h"
     VERBATIM)

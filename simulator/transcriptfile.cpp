@@ -42,7 +42,7 @@ void TranscriptFile::addReceived(const QByteArray &bytes)
 void TranscriptFile::addSent(const QByteArray &bytes)
 {
     sent += bytes;
-    for (int end = 0; (end = sent.indexOf('\n') + 1) > 0;) {
+    for (int end = 0; (end = static_cast<int>(sent.indexOf('\n')) + 1) > 0;) {
         write('>', sent.left(end));
         sent.remove(0, end);
     }

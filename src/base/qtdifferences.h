@@ -24,11 +24,17 @@ inline bool isHighDensityAskedFor()
            QCoreApplication::testAttribute(Qt::AA_UseHighDpiPixmaps);
 }
 
+/// The second colour of the headers' gradient as the compiled forms have it.
+constexpr char headerBlue[] = "rgba(50,50,140)";
+
 #else
 
 /// It is always given.
 inline void askForHighDensity() {}
 inline bool isHighDensityAskedFor() { return true; }
+
+/// See cmake/AdoptPagesEarly.cmake.
+constexpr char headerBlue[] = "rgba(50,50,140,255)";
 
 #endif
 

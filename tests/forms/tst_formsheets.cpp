@@ -3,6 +3,7 @@
 
 #include "formbench.h"
 #include "formtable.h"
+#include "qtdifferences.h"
 
 #include <QRegularExpression>
 
@@ -10,7 +11,8 @@ namespace {
 
 const QString headerGradient =
     QStringLiteral("background: qlineargradient(x1:0, y1:0, x2:0, y2:1, stop:0 rgb(0,0,100), "
-                   "stop:0.1 rgba(50,50,140), stop:0.5 rgb(41, 88, 160));");
+                   "stop:0.1 %1, stop:0.5 rgb(41, 88, 160));")
+        .arg(QtDifferences::headerBlue);
 
 /// The declarations of every rule of a sheet by its selector, without comments and line breaks.
 QHash<QString, QString> rulesOf(QString sheet)

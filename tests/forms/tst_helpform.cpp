@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The TAL-VERO Connect developers
 // SPDX-License-Identifier: MIT
 
+#include "qtdifferences.h"
 #include "resources.h"
 #include "ui_infoform.h"
 
@@ -60,9 +61,10 @@ void tst_HelpForm::titleCarriesTheHeaderGradient()
     QCOMPARE(ui.title->text(), QStringLiteral("TextLabel"));
     QCOMPARE(ui.title->styleSheet().simplified(),
              QStringLiteral("background: qlineargradient(x1:0, y1:0, x2:0, y2:1, "
-                            "stop:0 rgb(0,0,100), stop:0.1 rgba(50,50,140), "
+                            "stop:0 rgb(0,0,100), stop:0.1 %1, "
                             "stop:0.5 rgb(41, 88, 160)); font: bold 10pt; color: white; "
-                            "padding: 10px;"));
+                            "padding: 10px;")
+                 .arg(QtDifferences::headerBlue));
 }
 
 void tst_HelpForm::textIsAtTheTopLeftWithRoomAround()
