@@ -35,6 +35,9 @@ install_missing() {
 # machine lacks.
 build_packages=(g++ cmake ninja-build qtbase5-dev libqt5serialport5-dev cmark-gfm fonts-dejavu-core)
 
+# What building with Qt 6 needs besides, on Debian 12, Ubuntu 24.04 or later: older ones have no Qt 6.4.
+qt6_packages=(qt6-base-dev qt6-base-dev-tools qt6-serialport-dev qt6-qpa-plugins)
+
 # What the tests need besides: a locale that writes "0,5" (made from `locales`), and what stands between
 # the program and a screen reader.
 test_packages=(locales at-spi2-core dbus gir1.2-atspi-2.0 python3-gi xdotool xvfb)
