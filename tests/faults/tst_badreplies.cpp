@@ -7,6 +7,7 @@
 
 #include "dialoghand.h"
 
+#include <QAbstractButton>
 #include <QMessageBox>
 
 namespace {

@@ -38,7 +38,7 @@ bool arrivesBehind(FaultBench &bench, qint64 size, const QByteArray &lineEnd)
            showsPulse(bench);
 }
 
-constexpr qint64 mebibyte = 1024 * 1024;
+constexpr qint64 mebibyte = 1024LL * 1024;
 
 const FaultRow faults[] = {
     {"every byte comes alone",

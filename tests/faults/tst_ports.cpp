@@ -8,6 +8,7 @@
 
 #include "dialoghand.h"
 
+#include <QAbstractButton>
 #include <QMessageBox>
 #include <QSerialPort>
 #include <QTemporaryFile>
