@@ -140,9 +140,16 @@ ProgramCall readCall(const ProgramFace &face, const QStringList &arguments)
     parser.addOptions({help, version});
 
     ProgramCall call;
-    if (!parser.parse(withoutQtOptions(arguments))) {
+    const bool isUnderstood = parser.parse(withoutQtOptions(arguments));
+    if (!parser.unknownOptionNames().isEmpty()) {
+        call.remark = parser.errorText();
+    } else if (!isUnderstood) {
         call.problem = parser.errorText();
-    } else if (parser.isSet(help)) {
+    }
+    if (!call.problem.isEmpty()) {
+        return call;
+    }
+    if (parser.isSet(help)) {
         call.wantedText = helpText(face);
     } else if (parser.isSet(version)) {
         call.wantedText = versionText(face.name);
@@ -165,10 +172,13 @@ std::optional<int> answerCall(const ProgramFace &face, int argc, char **argv)
     std::transform(argv, argv + argc, std::back_inserter(arguments),
                    [](const char *word) { return QString::fromUtf8(word); });
     const ProgramCall call = readCall(face, arguments);
-    if (!call.problem.isEmpty()) {
+    const QString complaint = call.problem.isEmpty() ? call.remark : call.problem;
+    if (!complaint.isEmpty()) {
         findOutput();
         say(stderr,
-            QStringLiteral("%1: %2 %1 --help tells what there is.").arg(face.name, call.problem));
+            QStringLiteral("%1: %2 %1 --help tells what there is.").arg(face.name, complaint));
+    }
+    if (!call.problem.isEmpty()) {
         return wrongUsage;
     }
     if (!call.wantedText.isEmpty()) {

@@ -32,7 +32,8 @@ struct ProgramCall
 {
     QMap<QString, QString> values; ///< of the options that are given, by name; the last one counts
     QString wantedText; ///< the help or version, if that is asked for; without a line end
-    QString problem;    ///< what is wrong; empty: nothing
+    QString remark;     ///< what is passed over: options that there are not; empty: nothing
+    QString problem;    ///< what is wrong with an option that there is; empty: nothing
 };
 
 /// "tal-vero-connect 1.2.11".
@@ -43,9 +44,10 @@ QString versionText(const QString &program);
 /// object.
 ProgramCall readCall(const ProgramFace &face, const QStringList &arguments);
 
-/// Says what is asked for or wrong, on standard output or standard error. Returns the program's
-/// exit code, 0 or 2; nothing if it is to start. To be called before the application object is
-/// made, which ends the program where there is no display.
+/// Says what is asked for, passed over or wrong, on standard output or standard error. Returns the
+/// program's exit code, 0 or 2; nothing if it is to start: an operator whose desktop adds a word
+/// wants the window. To be called before the application object is made, which ends the program
+/// where there is no display.
 std::optional<int> answerCall(const ProgramFace &face, int argc, char **argv);
 
 #endif // PROGRAMCALL_H

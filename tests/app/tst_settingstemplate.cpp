@@ -31,7 +31,7 @@ QStringList outline(const QByteArray &document)
             break;
         case QXmlStreamReader::Characters:
             if (!xml.isWhitespace())
-                lines.last() += QLatin1Char('=') + xml.text();
+                lines.last() += QLatin1Char('=') + xml.text().toString();
             break;
         case QXmlStreamReader::Comment:
             lines << QStringLiteral("<!-- %1 -->").arg(xml.text().toString().trimmed());

@@ -47,6 +47,8 @@ private slots:
     void versionIsTheProjects();
     void qtsOwnOptionsAreNoMistake_data();
     void qtsOwnOptionsAreNoMistake();
+    void optionsThatThereAreNotArePassedOver_data();
+    void optionsThatThereAreNotArePassedOver();
     void mistakes_data();
     void mistakes();
 };
@@ -135,12 +137,6 @@ void TestProgramCall::qtsOwnOptionsAreNoMistake()
 void TestProgramCall::mistakes_data()
 {
     QTest::addColumn<QString>("problem");
-    QTest::newRow("--frob") << "Unknown option 'frob'.";
-    QTest::newRow("-frob") << "Unknown option 'frob'.";
-    QTest::newRow("--logs x.log") << "Unknown option 'logs'.";
-    QTest::newRow("-platform xcb --frob") << "Unknown option 'frob'.";
-    QTest::newRow("--help --frob") << "Unknown option 'frob'.";
-    QTest::newRow("--frob=1 --grob") << "Unknown options: frob, grob.";
     QTest::newRow("--log") << "Missing value after '--log'.";
     QTest::newRow("--help=x") << "Unexpected value after '--help'.";
 }
@@ -150,6 +146,26 @@ void TestProgramCall::mistakes()
     const ProgramCall wrong = callOfTheRow();
     QTEST(wrong.problem, "problem");
     QCOMPARE(wrong.wantedText, QString());
+}
+
+void TestProgramCall::optionsThatThereAreNotArePassedOver_data()
+{
+    QTest::addColumn<QString>("remark");
+    QTest::newRow("--frob") << "Unknown option 'frob'.";
+    QTest::newRow("-frob") << "Unknown option 'frob'.";
+    QTest::newRow("--logs x.log") << "Unknown option 'logs'.";
+    QTest::newRow("-platform xcb --frob") << "Unknown option 'frob'.";
+    QTest::newRow("--frob=1 --grob") << "Unknown options: frob, grob.";
+}
+
+void TestProgramCall::optionsThatThereAreNotArePassedOver()
+{
+    const ProgramCall given = callOfTheRow();
+    QTEST(given.remark, "remark");
+    QCOMPARE(given.problem, QString());
+    QCOMPARE(given.wantedText, QString());
+    QVERIFY2(!call({"--frob", "--help"}).wantedText.isEmpty(), "the help is passed over, too");
+    QCOMPARE(call({"--frob", "--log", "x.log"}).values.value("log"), QString("x.log"));
 }
 
 QTEST_APPLESS_MAIN(TestProgramCall)
