@@ -92,7 +92,7 @@ void SoakJudgeTest::growthIsBad()
 void SoakJudgeTest::growthUntilItHasSettledIsGood()
 {
     const SoakJudge judge = soakOf(600, [](int second, SoakSample &sample) {
-        sample.residentKib += 100 * std::min(second, 300);
+        sample.residentKib += 100LL * std::min(second, 300);
     });
     QCOMPARE(judge.complaints(confirmed(1)), QStringList());
 }
@@ -108,7 +108,7 @@ void SoakJudgeTest::peakThatGoesAgainIsNoGrowth()
 void SoakJudgeTest::growthOfAShortSoakIsNotJudged()
 {
     const SoakJudge judge =
-        soakOf(400, [](int second, SoakSample &sample) { sample.residentKib += 100 * second; });
+        soakOf(400, [](int second, SoakSample &sample) { sample.residentKib += 100LL * second; });
     QVERIFY(!judge.canTellGrowth());
     QCOMPARE(judge.complaints(confirmed(1)), QStringList());
     QVERIFY(judge.summary(confirmed(1)).contains("Too short to speak of growth."));
