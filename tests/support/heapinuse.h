@@ -7,7 +7,10 @@
 #include <QtGlobal>
 
 #ifdef __SANITIZE_ADDRESS__
-#include <sanitizer/allocator_interface.h>
+#include <cstddef>
+
+// AddressSanitizer's own; GCC brings the function without a header that declares it.
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
 #else
 #include <malloc.h>
 #endif
