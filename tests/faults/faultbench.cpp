@@ -34,6 +34,7 @@ int openFiles() { return QDir("/proc/self/fd").entryList(QDir::System).size(); }
 bool isLongForm() { return qgetenv("TALVERO_FAULTS") == "long"; }
 
 FaultBench::FaultBench()
+    : answerTime(realAnswerTime)
 {
     sounder.hangUp(); // its clock would count as the window's
     for (int time = 0; time < 2; ++time) {
@@ -204,7 +205,9 @@ bool FaultBench::tellSettings()
 
 bool FaultBench::connectReady()
 {
+    setAnswerTime(realAnswerTime);
     const bool isReady = connectAs() && tellSettings();
+    setAnswerTime(answerTime);
     letInfoGo();
     return isReady;
 }
@@ -226,6 +229,12 @@ bool FaultBench::waitsUntilAlmostLate(QTimer *watch)
 }
 
 void FaultBench::keepAnswerTime(int milliseconds)
+{
+    answerTime = milliseconds;
+    setAnswerTime(milliseconds);
+}
+
+void FaultBench::setAnswerTime(int milliseconds)
 {
     for (const auto &[name, real] : intervals) {
         auto *const inLayer = port().findChild<QTimer *>(name);

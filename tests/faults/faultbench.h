@@ -69,7 +69,8 @@ public:
     /// Tells the three lines of a settings reply, both channels on and in automatic mode.
     bool tellSettings();
 
-    /// Connects with a settings reply, and lets the greeting go.
+    /// Connects with a settings reply, and lets the greeting go. However short an answer's time is,
+    /// this one has the real time: a machine that was away for a moment is no fault of the sounder.
     bool connectReady();
 
     /// Waits for this, 15 s if no other patience is given; false if it does not come.
@@ -107,6 +108,7 @@ private:
     };
 
     void letInfoGo();
+    void setAnswerTime(int milliseconds);
     Holdings holdings();
     static double shareWhile(int milliseconds);
     static double idleShare();
@@ -114,6 +116,7 @@ private:
     void note(const Figures &figures) const;
 
     Holdings before;
+    int answerTime;
 };
 
 /// A fault as the operator would tell it, and what the operator sees of it in the end.
@@ -148,9 +151,11 @@ protected:
     std::unique_ptr<FaultBench> bench;
     bool needsNewCable = false; ///< this row spoils the line: the next one gets a bench of its own
 
-private slots:
+protected slots:
     void init();
     void cleanup();
+
+private slots:
     void cleanupTestCase();
 };
 

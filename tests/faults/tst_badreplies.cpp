@@ -164,7 +164,7 @@ private slots:
 void TestBadReplies::initTestCase()
 {
     bench = std::make_unique<FaultBench>();
-    bench->keepAnswerTime(shortOrLong(250, 2000));
+    bench->keepAnswerTime(shortOrLong(1000, 2000));
     bench->timer("commandTimer")->setInterval(shortOrLong(20, 500));
 }
 

@@ -113,7 +113,7 @@ private slots:
 void TestNoise::initTestCase()
 {
     bench = std::make_unique<FaultBench>();
-    bench->keepAnswerTime(shortOrLong(250, 2000));
+    bench->keepAnswerTime(shortOrLong(1000, 2000));
 }
 
 void TestNoise::whatIsNoNumberInEveryReport_data()
