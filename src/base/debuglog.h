@@ -6,6 +6,7 @@
 
 #include <QByteArray>
 #include <QDebug>
+#include <QStringList>
 
 #include <cstring>
 
@@ -37,6 +38,27 @@ inline QDebug windowLogLine(const char *path, int line, const char *function)
 {
     return debugLogLine(QByteArray("mainwindow_") + debugLogFileName(path), line, "MainWindow",
                         function);
+}
+
+/// Texts for the log, which writes them as ("one", "two"). Qt 6 puts the name of their type before
+/// them otherwise, and whoever searches in logs would search twice.
+struct LoggedTexts
+{
+    const QStringList &texts;
+};
+
+inline QDebug operator<<(QDebug log, const LoggedTexts &logged)
+{
+    const bool parted = log.autoInsertSpaces();
+    const char *separator = "";
+    log.nospace() << '(';
+    for (const QString &text : logged.texts) {
+        log << separator << text;
+        separator = ", ";
+    }
+    log << ')';
+    log.setAutoInsertSpaces(parted);
+    return log.maybeSpace();
 }
 
 /// For use inside member functions of a Q_OBJECT class, whose name it prints. (A compiler's own

@@ -27,6 +27,9 @@ inline bool isHighDensityAskedFor()
 /// The second colour of the headers' gradient as the compiled forms have it.
 constexpr char headerBlue[] = "rgba(50,50,140)";
 
+/// A font's weight that style sheets write as a number of up to 1000: Qt counted to 99.
+constexpr int fontWeight(int inStyleSheet) { return inStyleSheet / 8; }
+
 #else
 
 /// It is always given.
@@ -35,6 +38,8 @@ inline bool isHighDensityAskedFor() { return true; }
 
 /// See cmake/AdoptPagesEarly.cmake.
 constexpr char headerBlue[] = "rgba(50,50,140,255)";
+
+constexpr int fontWeight(int inStyleSheet) { return inStyleSheet; }
 
 #endif
 

@@ -81,9 +81,9 @@ void CommandQueue::mergeRepeatsOfFirst()
     if (pendingChanges.count(pendingChanges.first()) < 2) {
         return;
     }
-    WINDOW_LOG << "Have duplicates, going to uniquify : " << pendingChanges;
+    WINDOW_LOG << "Have duplicates, going to uniquify : " << LoggedTexts{pendingChanges};
     pendingChanges.removeDuplicates();
-    WINDOW_LOG << "result is " << pendingChanges;
+    WINDOW_LOG << "result is " << LoggedTexts{pendingChanges};
 }
 
 void CommandQueue::noteSent(const QString &key)

@@ -111,13 +111,14 @@ void LinkSession::refuse(const QString & /*line*/)
 void LinkSession::parseSetting(const QString &line)
 {
     const QStringList pieces = Protocol::replyPieces(line);
-    WINDOW_LOG << "Settings" << pieces;
+    WINDOW_LOG << "Settings" << LoggedTexts{pieces};
     emit settingsReplied(Protocol::readReply(line, pieces));
 }
 
 void LinkSession::readIdentifier(const QString &line)
 {
-    WINDOW_LOG_AS("showIdentifier") << line.split(QLatin1Char(' '));
+    const QStringList words = line.split(QLatin1Char(' '));
+    WINDOW_LOG_AS("showIdentifier") << LoggedTexts{words};
     constexpr int shownCharacters = 8;
     emit identifierRead(Protocol::blankSeparatedItem(line, 2).left(shownCharacters));
 }

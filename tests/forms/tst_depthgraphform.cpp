@@ -83,7 +83,7 @@ void tst_DepthGraphForm::headerCarriesTheGradient()
 void tst_DepthGraphForm::titleIsBoldRichTextAtTheLeft()
 {
     QCOMPARE(ui.titleLabel->font().pointSize(), 10);
-    QCOMPARE(ui.titleLabel->font().weight(), 75);
+    QCOMPARE(int(ui.titleLabel->font().weight()), int(QFont::Bold));
     QVERIFY(!ui.titleLabel->font().italic());
     QCOMPARE(ui.titleLabel->textFormat(), Qt::RichText);
     QCOMPARE(ui.titleLabel->alignment(), Qt::AlignLeft | Qt::AlignVCenter);
