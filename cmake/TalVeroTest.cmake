@@ -83,3 +83,12 @@ function(talvero_add_dense_run name program)
     TIMEOUT 300
     ENVIRONMENT "${TALVERO_TEST_ENVIRONMENT};QT_SCALE_FACTOR=${arg_SCALE}")
 endfunction()
+
+# talvero_begin_with_tests_here(): those of this folder wait long for timers and slow lines. They begin before
+# all others, so that nothing waits for them alone in the end.
+function(talvero_begin_with_tests_here)
+  get_property(tests DIRECTORY PROPERTY TESTS)
+  if(tests)
+    set_tests_properties(${tests} PROPERTIES COST 100)
+  endif()
+endfunction()

@@ -20,15 +20,12 @@ constexpr double intervalMs = beatInterval.count();
 
 constexpr qint64 bytesPerKib = 1024;
 
-double milliseconds(clockid_t which)
+double processMs()
 {
     timespec time{};
-    clock_gettime(which, &time);
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
     return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
 }
-
-double threadMs() { return milliseconds(CLOCK_THREAD_CPUTIME_ID); }
-double processMs() { return milliseconds(CLOCK_PROCESS_CPUTIME_ID); }
 
 qint64 residentKib()
 {
@@ -69,7 +66,7 @@ SoakMeter::SoakMeter(QObject *parent)
 void SoakMeter::start()
 {
     clock.start();
-    beatCpuMs = threadMs();
+    sinceBeat.lap();
     sampleCpuMs = processMs();
     heartbeat.start();
     secondHand.start();
@@ -78,11 +75,9 @@ void SoakMeter::start()
 void SoakMeter::beat()
 {
     const double nowMs = static_cast<double>(clock.nsecsElapsed()) / 1e6;
-    const double cpuMs = threadMs();
     current.absenceMs = std::max(current.absenceMs, nowMs - beatAtMs - intervalMs);
-    current.absenceCpuMs = std::max(current.absenceCpuMs, cpuMs - beatCpuMs);
+    current.absenceCpuMs = std::max(current.absenceCpuMs, sinceBeat.lap());
     beatAtMs = nowMs;
-    beatCpuMs = cpuMs;
     emit beaten();
 }
 

@@ -4,6 +4,8 @@
 #ifndef SOAKMETER_H
 #define SOAKMETER_H
 
+#include "processortime.h"
+
 #include <QElapsedTimer>
 #include <QObject>
 #include <QTimer>
@@ -22,7 +24,8 @@ struct SoakSample
 
 /// Measures this process, each second. The window's absence is measured by a heartbeat: how much
 /// later than it should have the event loop come to it. The wall clock counts what other programs
-/// take from a shared machine, too; the thread's processor time counts the program's own work.
+/// take from a shared machine, too; the thread's processor time counts the program's own work, as
+/// far as the host of a virtual machine tells what it took away.
 class SoakMeter : public QObject
 {
     Q_OBJECT
@@ -46,8 +49,8 @@ private:
     QTimer heartbeat;
     QTimer secondHand;
     QElapsedTimer clock;
+    ProcessorTime::Stopwatch sinceBeat;
     double beatAtMs = 0;
-    double beatCpuMs = 0;
     double sampleAtMs = 0;
     double sampleCpuMs = 0;
     SoakSample current;
