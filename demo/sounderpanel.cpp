@@ -92,6 +92,7 @@ SounderPanel::SounderPanel(PtySounder &itsSounder, QWidget *parent)
 {
     setWindowTitle(QStringLiteral("Simulated Sounder"));
     setAttribute(Qt::WA_QuitOnClose, false);
+    setAttribute(Qt::WA_AlwaysShowToolTips); // the keyboard stays with the program's window
     auto *const column = new QVBoxLayout(this);
     column->setSizeConstraint(QLayout::SetFixedSize);
     for (QWidget *const part : std::initializer_list<QWidget *>{makePortBox(), makeCableBox(),

@@ -12,6 +12,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalSpy>
+#include <QToolTip>
 #include <QtTest>
 
 namespace {
@@ -97,6 +98,7 @@ private slots:
     void noiseDoesNoHarm();
     void sounderIsNotHeldUpByAPressedButton();
     void everyControlTellsWhatWillBeSeen();
+    void tellsItWhileTheWindowHasTheKeyboard();
     void panelMayBeClosedTheWindowEndsTheProgram();
 };
 
@@ -254,6 +256,19 @@ void TestSounderPanel::everyControlTellsWhatWillBeSeen()
         QVERIFY2(button->focusPolicy() & Qt::TabFocus, qPrintable(button->text()));
     }
     QVERIFY(!desk.control<QLabel>("port").accessibleName().isEmpty());
+}
+
+void TestSounderPanel::tellsItWhileTheWindowHasTheKeyboard()
+{
+    Desk desk;
+    desk.window.activateWindow();
+    QTRY_VERIFY(desk.window.isActiveWindow());
+    const auto &cable = desk.control<QPushButton>("cable");
+    QTest::mouseMove(desk.panel.windowHandle(), cable.geometry().topLeft() / 2);
+    QTest::mouseMove(desk.panel.windowHandle(), cable.mapTo(&desk.panel, cable.rect().center()));
+    QTRY_COMPARE(QToolTip::text(), cable.toolTip());
+    QVERIFY(!desk.panel.isActiveWindow());
+    QToolTip::hideText();
 }
 
 void TestSounderPanel::panelMayBeClosedTheWindowEndsTheProgram()
