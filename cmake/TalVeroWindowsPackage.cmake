@@ -23,6 +23,10 @@ endforeach()
 install(DIRECTORY ${TALVERO_WINDOWS_SDK}/licenses/ DESTINATION licenses)
 install(FILES ${PROJECT_SOURCE_DIR}/LICENSE ${PROJECT_SOURCE_DIR}/windows/libraries.txt DESTINATION licenses)
 
+if(TALVERO_MANUAL_FOLDER)
+  install(DIRECTORY ${TALVERO_MANUAL_FOLDER}/ DESTINATION manual)
+endif()
+
 set(CPACK_PACKAGE_NAME "TAL-VERO Connect")
 set(CPACK_PACKAGE_VENDOR "The TAL-VERO Connect developers")
 set(CPACK_PACKAGE_FILE_NAME "tal-vero-connect-${PROJECT_VERSION}-windows")

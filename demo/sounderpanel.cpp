@@ -57,6 +57,24 @@ constexpr ChannelRow channelRows[] = {
 };
 // clang-format on
 
+/// What the panel says of the cable.
+struct CableRow
+{
+    const char *caption;
+    const char *toolTip;
+    const char *advice;
+};
+
+constexpr CableRow cableIn = {
+    "Pull the cable",
+    "A link is lost at once: \"Lost Connection To Device\". The port leaves the list.",
+    "Choose this port, rate Auto, press Connect."};
+constexpr CableRow cableOut = {
+    "Plug the cable in",
+    "The port comes back into the list within a second. Choose it, rate Auto, press Connect: the "
+    "sounder has all its settings still.",
+    "Plug it in; the port comes back."};
+
 /// Markup lets a tooltip wrap, which it does not as plain text.
 QString wrapped(const char *text)
 {
@@ -116,8 +134,9 @@ QGroupBox *SounderPanel::makePortBox()
     font.setBold(true);
     port->setFont(font);
     box->layout()->addWidget(port);
-    box->layout()->addWidget(
-        new QLabel(QStringLiteral("Choose this port, rate Auto, press Connect.")));
+    advice = new QLabel;
+    advice->setObjectName(QStringLiteral("advice"));
+    box->layout()->addWidget(advice);
     return box;
 }
 
@@ -177,13 +196,9 @@ void SounderPanel::pullOrPlugIn()
 void SounderPanel::showCable()
 {
     const bool isIn = sounder.isOpen();
+    const CableRow &row = isIn ? cableIn : cableOut;
     port->setText(isIn ? sounder.portPath() : QStringLiteral("The cable is out"));
-    cable->setText(isIn ? QStringLiteral("Pull the cable") : QStringLiteral("Plug the cable in"));
-    const QString toolTip =
-        isIn ? QStringLiteral("A link is lost at once: \"Lost Connection To Device\". The port "
-                              "leaves the list.")
-             : QStringLiteral("The port comes back into the list within a second. Choose it, rate "
-                              "Auto, press Connect: the sounder has all its settings still.");
-    cable->setToolTip(wrapped(toolTip.toUtf8().constData()));
-    cable->setAccessibleDescription(toolTip);
+    advice->setText(QLatin1String(row.advice));
+    cable->setText(QLatin1String(row.caption));
+    describe(*cable, "cable", row);
 }

@@ -36,6 +36,7 @@ private:
 
     PtySounder &sounder;
     QLabel *port = nullptr;
+    QLabel *advice = nullptr;
     QPushButton *cable = nullptr;
 };
 

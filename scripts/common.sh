@@ -48,7 +48,7 @@ linux_check_packages=(appstream cpio desktop-file-utils lintian man-db openbox r
 bare_debian_packages=(debootstrap openbox wmctrl xdotool xvfb)
 
 # What cross-building for Windows, running there and packing need; the fonts stand in for Windows' own.
-windows_packages=(cmake ninja-build g++-mingw-w64-x86-64-posix wine wine64 fonts-wine fonts-dejavu-core nsis
+windows_packages=(cmake ninja-build cmark-gfm g++-mingw-w64-x86-64-posix wine wine64 fonts-wine fonts-dejavu-core nsis
     unzip xz-utils socat xvfb xauth xdotool)
 
 # configure PRESET [cmake options...]

@@ -120,6 +120,7 @@ void TestSounderPanel::pulledCableLosesTheLinkAndThePort()
     QTRY_VERIFY(!desk.lists(path));
     QCOMPARE(desk.control<QLabel>("port").text(), QString("The cable is out"));
     QCOMPARE(desk.control<QPushButton>("cable").text(), QString("Plug the cable in"));
+    QCOMPARE(desk.control<QLabel>("advice").text(), QString("Plug it in; the port comes back."));
 }
 
 void TestSounderPanel::pluggedInAgainItConnectsAndKnowsItsSettings()

@@ -200,14 +200,15 @@ void ManualTest::anOutputFormatHasItsSentence_data()
 void ManualTest::anOutputFormatHasItsSentence()
 {
     QFETCH(const OutputFormat *, format);
-    const DepthPair depths{12.34, 12.61};
+    const double draft = format->deviceNumber == NmeaDbt ? 0.40 : 0; // left out there
+    const DepthPair depths{12.34 - draft, 12.61 - draft};
     const QString below = section(format->name);
     QCOMPARE(ManualPage::fenced(below),
              QString::fromLatin1(DepthFormats::lines(format->deviceNumber, depths).join('\n')));
     QVERIFY(section("Output Format")
                 .simplified()
                 .contains("12.34 m and a low-frequency depth of "
-                          "12.61 m"));
+                          "12.61 m, with a draft of 0.40 m in both"));
     if (format->fixedRate != 0) {
         QVERIFY(below.contains(QString("always runs at %1").arg(format->fixedRate)));
         QVERIFY(below.contains("Fixed by " + format->name));
