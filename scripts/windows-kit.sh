@@ -75,3 +75,10 @@ use_wine() {
     wineserver -w # Wine looks for ports when it starts
     echo "${windows_port_numbers[*]}" >"$ready"
 }
+
+# hold_desktop: Wine makes its desktop for the first window and waits for that no longer than 10 s, too short
+# where many programs begin at once on a busy machine: whichever wants a window then hangs. This one holds it.
+hold_desktop() {
+    wine explorer /desktop >/dev/null 2>&1 </dev/null &
+    wine cmd /c exit >/dev/null 2>&1 </dev/null
+}
