@@ -30,6 +30,12 @@ constexpr char headerBlue[] = "rgba(50,50,140)";
 /// A font's weight that style sheets write as a number of up to 1000: Qt counted to 99.
 constexpr int fontWeight(int inStyleSheet) { return inStyleSheet / 8; }
 
+/// A painter covers a dot that lies within one column of pixels from both sides and adds the two.
+constexpr bool coversOneColumnTwice = true;
+
+/// By how many of the 255 steps of a colour a painter may round otherwise than this one.
+constexpr int painterSteps = 0;
+
 #else
 
 /// It is always given.
@@ -40,6 +46,9 @@ inline bool isHighDensityAskedFor() { return true; }
 constexpr char headerBlue[] = "rgba(50,50,140,255)";
 
 constexpr int fontWeight(int inStyleSheet) { return inStyleSheet; }
+
+constexpr bool coversOneColumnTwice = false;
+constexpr int painterSteps = 1;
 
 #endif
 

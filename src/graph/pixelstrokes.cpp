@@ -3,6 +3,8 @@
 
 #include "pixelstrokes.h"
 
+#include "qtdifferences.h"
+
 #include <QImage>
 
 #include <algorithm>
@@ -109,17 +111,21 @@ unsigned dotCoverage(int height, int width)
     return static_cast<quint8>(area >> (2 * dotFraction));
 }
 
+/// What a dot that lies within one column covers of it, in `dotUnit`s.
+int ofOnlyColumn(const DotExtent &columns)
+{
+    const int bothSides = columns.ofFirst + columns.ofLast;
+    return QtDifferences::coversOneColumnTwice ? bothSides : bothSides - dotUnit;
+}
+
 /// What a row of a dot leaves on its pixels, of which `height` is covered.
 class DotRowInks
 {
 public:
     DotRowInks(const DotExtent &itsColumns, int height, QRgb colour)
         : columns(itsColumns)
-        // A dot that lies within one column covers it from both sides: a painter adds the two
-        // parts.
-        , left(colour,
-               dotCoverage(height, columns.first == columns.last ? columns.ofFirst + columns.ofLast
-                                                                 : columns.ofFirst))
+        , left(colour, dotCoverage(height, columns.first == columns.last ? ofOnlyColumn(columns)
+                                                                         : columns.ofFirst))
         , between(colour, dotCoverage(height, dotUnit))
         , right(colour, dotCoverage(height, columns.ofLast))
     {}

@@ -56,7 +56,7 @@ void drawBatch(QPainter &painter, const Batch &batch)
 {
     painter.setPen(batch.pen);
     painter.drawLines(batch.lines);
-    painter.drawPoints(batch.points.constData(), batch.points.size());
+    painter.drawPoints(batch.points.constData(), int(batch.points.size()));
 }
 
 void batchedSamples(QPainter &painter, const DepthChartData &chart, double yScale, double xStep,
@@ -98,7 +98,7 @@ double plainStep(int graphRange)
 
 void plainScale(QPainter &painter, const DepthChartData &chart, double yScale, double w)
 {
-    const QFont font("MS Shell Dlg 2", 9, 75);
+    const QFont font("MS Shell Dlg 2", 9, QFont::Bold);
     const double textOffset = QFontMetrics(font).height() * 0.4;
     const double step = plainStep(chart.graphRange);
     for (int i = 0; i < chart.graphRange * 1.1 * double(chart.unitFactor); i = int(i + step)) {

@@ -25,12 +25,8 @@ int greatestDifference(const QImage &one, const QImage &other)
         const auto *const ones = reinterpret_cast<const QRgb *>(one.constScanLine(y));
         const auto *const others = reinterpret_cast<const QRgb *>(other.constScanLine(y));
         for (int x = 0; x < one.width(); ++x) {
-            const QRgb a = ones[x];
-            const QRgb b = others[x];
-            if (a != b) {
-                greatest =
-                    std::max({greatest, std::abs(qRed(a) - qRed(b)),
-                              std::abs(qGreen(a) - qGreen(b)), std::abs(qBlue(a) - qBlue(b))});
+            if (ones[x] != others[x]) {
+                greatest = std::max(greatest, stepsApart(ones[x], others[x]));
             }
         }
     }

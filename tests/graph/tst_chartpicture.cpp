@@ -124,6 +124,10 @@ private slots:
     void picturesOfTwoScalesDifferEverywhere();
     void sharedPixelsStay();
     void remembersItsChart();
+    void cleanupTestCase() { comparison.report(); }
+
+private:
+    PainterComparison comparison;
 };
 
 void TestChartPicture::hasNoImageBeforeTheFirstDrawing()
@@ -148,7 +152,7 @@ void TestChartPicture::everyPictureOfASurveyIsThePlainOne()
         survey.step();
         picture.draw(survey.size, survey.chart);
         const QByteArray difference =
-            firstDifference(picture.image(), plainChart(survey.size, survey.chart));
+            comparison.difference(picture.image(), plainChart(survey.size, survey.chart));
         QVERIFY2(difference.isEmpty(), qPrintable(QStringLiteral("step %1: ").arg(i) + difference));
     }
 }
@@ -206,7 +210,7 @@ void TestChartPicture::sharedPixelsStay()
     const QImage expected = taken.copy();
     picture.draw(usualSize, rollingBed(1020));
     QCOMPARE(taken, expected);
-    QCOMPARE(firstDifference(picture.image(), plainChart(usualSize, rollingBed(1020))),
+    QCOMPARE(comparison.difference(picture.image(), plainChart(usualSize, rollingBed(1020))),
              QByteArray());
 }
 

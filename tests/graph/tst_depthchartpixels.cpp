@@ -3,6 +3,7 @@
 
 #include "chartcomparison.h"
 #include "chartscenes.h"
+#include "qtdifferences.h"
 
 #include <QtTest>
 
@@ -71,6 +72,7 @@ private slots:
     void dotsOnTopOfEachOther();
     void tinyCharts();
     void oneWrongPixelIsFound();
+    void nothingPassesForThePaintersThatIsNot();
     void cleanupTestCase() { comparison.report(); }
 
 private:
@@ -264,6 +266,21 @@ void TestDepthChartPixels::oneWrongPixelIsFound()
             "pixel " + QByteArray::number(place.x()) + "," + QByteArray::number(place.y()) + " is ";
         QVERIFY2(found.startsWith(where), found);
     }
+}
+
+/// One step too many of blue.
+void TestDepthChartPixels::nothingPassesForThePaintersThatIsNot()
+{
+    const QSize size(100, 80);
+    const DepthChartData chart = chartOf(scene("full"), 25, false);
+    const QImage right = drawnChart(size, chart);
+    const QRgb pixel = right.pixel(99, 79);
+    QCOMPARE(pixel, qRgb(255, 255, 255));
+    QImage wrong = right;
+    wrong.setPixel(99, 79, qRgb(255, 255, 255 - (QtDifferences::painterSteps + 1)));
+    PainterComparison pictures;
+    QCOMPARE(pictures.difference(right, right), QByteArray());
+    QVERIFY(pictures.difference(wrong, right).startsWith("pixel 99,79 is "));
 }
 
 QTEST_MAIN(TestDepthChartPixels)

@@ -3,6 +3,8 @@
 
 #include "pixelstrokes.h"
 
+#include "chartcomparison.h"
+
 #include <QImage>
 #include <QPainter>
 #include <QtTest>
@@ -99,6 +101,10 @@ private slots:
     void bandsTogetherGiveTheWhole();
     void nothingIsDrawnOutsideItsRows();
     void onlyItsRowsAreWiped();
+    void cleanupTestCase() { comparison.report(); }
+
+private:
+    PainterComparison comparison;
 };
 
 void TestPixelStrokes::dotIsThePaintersOwn_data()
@@ -120,7 +126,9 @@ void TestPixelStrokes::dotIsThePaintersOwn()
 {
     QFETCH(double, distance);
     QFETCH(double, y);
-    QCOMPARE(strokedDot(paperSize, distance, y), paintedDot(paperSize, distance, y));
+    const QByteArray difference = comparison.difference(strokedDot(paperSize, distance, y),
+                                                        paintedDot(paperSize, distance, y));
+    QVERIFY2(difference.isEmpty(), difference);
 }
 
 void TestPixelStrokes::anyDotIsThePaintersOwn()
@@ -130,12 +138,14 @@ void TestPixelStrokes::anyDotIsThePaintersOwn()
         const QSize size(1 + int(random() % 12), 1 + int(random() % 12));
         const double distance = size.width() * std::uniform_real_distribution<>(0.0, 1.0)(random);
         const double y = std::uniform_real_distribution<>(-4.0, size.height() + 4.0)(random);
-        const auto place = QStringLiteral("%1 x %2, %3 from the right, %4 down")
+        const auto place = QStringLiteral("%1 x %2, %3 from the right, %4 down: ")
                                .arg(size.width())
                                .arg(size.height())
                                .arg(distance, 0, 'g', 17)
                                .arg(y, 0, 'g', 17);
-        QVERIFY2(strokedDot(size, distance, y) == paintedDot(size, distance, y), qPrintable(place));
+        const QByteArray difference =
+            comparison.difference(strokedDot(size, distance, y), paintedDot(size, distance, y));
+        QVERIFY2(difference.isEmpty(), qPrintable(place + difference));
     }
 }
 
@@ -163,7 +173,9 @@ void TestPixelStrokes::uprightLineIsThePaintersOwn()
     QFETCH(int, x);
     QFETCH(double, y1);
     QFETCH(double, y2);
-    QCOMPARE(strokedUpright(paperSize, x, y1, y2), paintedLine(paperSize, QLineF(x, y1, x, y2)));
+    const QByteArray difference = comparison.difference(
+        strokedUpright(paperSize, x, y1, y2), paintedLine(paperSize, QLineF(x, y1, x, y2)));
+    QVERIFY2(difference.isEmpty(), difference);
 }
 
 void TestPixelStrokes::anyUprightLineIsThePaintersOwn()
@@ -174,12 +186,11 @@ void TestPixelStrokes::anyUprightLineIsThePaintersOwn()
         const int x = int(random() % 41);
         const double y1 = row(random);
         const double y2 = y1 + (int(random() % 30) - 15);
-        QVERIFY2(strokedUpright(paperSize, x, y1, y2) ==
-                     paintedLine(paperSize, QLineF(x, y1, x, y2)),
-                 qPrintable(QStringLiteral("at %1 from %2 to %3")
-                                .arg(x)
-                                .arg(y1, 0, 'g', 17)
-                                .arg(y2, 0, 'g', 17)));
+        const auto place =
+            QStringLiteral("at %1 from %2 to %3: ").arg(x).arg(y1, 0, 'g', 17).arg(y2, 0, 'g', 17);
+        const QByteArray difference = comparison.difference(
+            strokedUpright(paperSize, x, y1, y2), paintedLine(paperSize, QLineF(x, y1, x, y2)));
+        QVERIFY2(difference.isEmpty(), qPrintable(place + difference));
     }
 }
 
@@ -194,11 +205,13 @@ void TestPixelStrokes::anyLyingLineIsThePaintersOwn()
         const double x2 = x1 + 0.1 + std::abs(column(random));
         const QImage actual = stroked(
             paperSize, [&](PixelStrokes &strokes) { strokes.horizontalLine(x1, x2, y, pink); });
-        QVERIFY2(actual == paintedLine(paperSize, QLineF(x2, y, x1, y)),
-                 qPrintable(QStringLiteral("%1 down from %2 to %3")
-                                .arg(y, 0, 'g', 17)
-                                .arg(x1, 0, 'g', 17)
-                                .arg(x2, 0, 'g', 17)));
+        const auto place = QStringLiteral("%1 down from %2 to %3: ")
+                               .arg(y, 0, 'g', 17)
+                               .arg(x1, 0, 'g', 17)
+                               .arg(x2, 0, 'g', 17);
+        const QByteArray difference =
+            comparison.difference(actual, paintedLine(paperSize, QLineF(x2, y, x1, y)));
+        QVERIFY2(difference.isEmpty(), qPrintable(place + difference));
     }
 }
 
