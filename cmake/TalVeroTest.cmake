@@ -12,10 +12,6 @@ endif()
 
 # Tests are compiled as quickly as they allow: what they drive is optimised, they themselves hardly need it.
 set(talvero_test_options $<$<AND:$<CONFIG:Release>,$<NOT:$<CXX_COMPILER_ID:MSVC>>>:-O1>)
-if(TALVERO_QT GREATER 5)
-  # Sizes have 64 bits there. A test that counts a handful may keep the number in an int.
-  list(APPEND talvero_test_options -Wno-conversion)
-endif()
 # The other linker of binutils takes a third of the time.
 include(CheckLinkerFlag)
 check_linker_flag(CXX -fuse-ld=gold TALVERO_HAS_GOLD)
@@ -51,10 +47,13 @@ function(talvero_add_test name)
   target_sources(${name} PRIVATE ${moc})
   target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_BINARY_DIR})
   target_compile_options(${name} PRIVATE ${talvero_test_options})
-  target_link_options(${name} PRIVATE ${talvero_test_link_options})
-  if(TALVERO_QT EQUAL 5) # Qt 6's test library names each test's own folder, for which the headers would be unfit
-    talvero_use_precompiled(${name} talvero_test_headers talvero_widget_test_headers ${arg_LINK})
+  if(TALVERO_QT GREATER 5)
+    # Sizes have 64 bits there. A test that counts a handful may keep the number in an int. (Options of the target
+    # would stand before the warnings'.)
+    set_source_files_properties(${name}.cpp PROPERTIES COMPILE_OPTIONS -Wno-conversion)
   endif()
+  target_link_options(${name} PRIVATE ${talvero_test_link_options})
+  talvero_use_precompiled(${name} talvero_test_headers talvero_widget_test_headers ${arg_LINK})
   talvero_skip_without_terminal(skipped ${name} ${arg_LINK})
   if(skipped)
     return()

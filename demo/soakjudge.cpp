@@ -49,7 +49,7 @@ Value SoakJudge::settled(Value SoakSample::*field) const
 template <typename Value>
 Value SoakJudge::last(Value SoakSample::*field) const
 {
-    return median(samples, samples.size() - window, window, field);
+    return median(samples, int(samples.size()) - window, window, field);
 }
 
 template <typename Value>
@@ -109,7 +109,7 @@ QStringList SoakJudge::summary(const SoakTally::Counts &changes) const
     }
     lines << QString("Open files at the end: %1").arg(last(&SoakSample::openFiles))
           << QString("Processor: %1 % of one core")
-                 .arg(rounded(median(samples, 0, samples.size(), &SoakSample::cpuPercent)))
+                 .arg(rounded(median(samples, 0, int(samples.size()), &SoakSample::cpuPercent)))
           << QString(
                  "The window's longest absence: %1 ms of its processor time, %2 ms by the clock")
                  .arg(rounded(most(&SoakSample::absenceCpuMs)),

@@ -48,7 +48,7 @@ qint64 heapKib()
 int openFiles()
 {
     constexpr auto all = QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot;
-    return QDir(QStringLiteral("/proc/self/fd")).entryList(all).size() - 1;
+    return int(QDir(QStringLiteral("/proc/self/fd")).entryList(all).size()) - 1;
 }
 
 } // namespace

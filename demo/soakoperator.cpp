@@ -78,7 +78,7 @@ int SoakOperator::roll(int sides)
     return static_cast<int>(dice() % static_cast<std::mt19937::result_type>(sides));
 }
 
-QString SoakOperator::oneOf(const QStringList &names) { return names.at(roll(names.size())); }
+QString SoakOperator::oneOf(const QStringList &names) { return names.at(roll(int(names.size()))); }
 
 /// The next step is arranged first, since an act may stay in a message box.
 void SoakOperator::step()

@@ -36,7 +36,7 @@ void SoakTally::settle(const QString &key, int Counts::*outcome)
 
 void SoakTally::linkEnded()
 {
-    sums.linkLost += open.size();
+    sums.linkLost += int(open.size());
     open.clear();
 }
 
@@ -46,6 +46,6 @@ QStringList SoakTally::giveUp(qint64 now)
     while (!open.isEmpty() && now - open.first().madeAt > patience) {
         keys << open.takeFirst().key;
     }
-    sums.lost += keys.size();
+    sums.lost += int(keys.size());
     return keys;
 }

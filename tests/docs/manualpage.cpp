@@ -25,7 +25,7 @@ bool isRule(const QString &line) { return line.startsWith(QLatin1String("|--"));
 int levelOf(const QString &line)
 {
     static const QRegularExpression mark(QStringLiteral("^(#+) "));
-    return mark.match(line).captured(1).size();
+    return int(mark.match(line).captured(1).size());
 }
 
 } // namespace

@@ -113,7 +113,7 @@ QList<FormWidget> widgetsOf(const QString &form)
         xml.readNext();
         const bool isWidget = xml.name() == QLatin1String("widget");
         if (xml.isStartElement() && isWidget) {
-            open.push(widgets.size());
+            open.push(int(widgets.size()));
             const QXmlStreamAttributes attributes = xml.attributes();
             widgets.append(
                 {attributes.value("class").toString(), attributes.value("name").toString(), {}});

@@ -61,7 +61,7 @@ constexpr Topic topics[] = {
 /// The topic's text as it was handed over, kept apart from the program's own copy.
 QString wording(const QString &file)
 {
-    QFile document(QFINDTESTDATA("topics/" + file + ".html"));
+    QFile document(QStringLiteral(TOPICS "/%1.html").arg(file));
     if (!document.open(QIODevice::ReadOnly)) {
         return QStringLiteral("no wording in %1").arg(document.fileName());
     }

@@ -375,8 +375,8 @@ void EverySettingTest::rateList()
 
 void EverySettingTest::cleanupTestCase()
 {
-    qInfo("%d pairs of a control and a unit system driven, %d commands compared", driven.size(),
-          compared);
+    qInfo("%d pairs of a control and a unit system driven, %d commands compared",
+          int(driven.size()), compared);
     for (auto &made : benches) {
         made.reset();
     }

@@ -63,7 +63,7 @@ void TestSpokenNames::everyControlHasItsOwn()
                                                     "\", as " + owners.value(name) + " is"));
         owners.insert(name, nameOf(control));
     }
-    qInfo("%d interactive widgets, %d names", controls.size(), owners.size());
+    qInfo("%d interactive widgets, %d names", int(controls.size()), int(owners.size()));
     QVERIFY2(controls.size() > 90, "the forms hold more than was found");
 }
 

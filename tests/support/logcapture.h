@@ -43,14 +43,14 @@ public:
     {
         QStringList result;
         for (const QString &line : lines()) {
-            const int start = line.indexOf(separator);
+            const auto start = line.indexOf(separator);
             result << (start < 0 ? line : line.mid(start + separator.size()));
         }
         return result;
     }
 
     /// How many lines hold this text anywhere.
-    int count(const QString &text) const { return lines().filter(text).size(); }
+    int count(const QString &text) const { return int(lines().filter(text).size()); }
 
     /// Whether a line holds this text anywhere.
     bool contains(const QString &text) const { return count(text) > 0; }
