@@ -6,7 +6,6 @@
 if(NOT UNIX OR NOT PROJECT_IS_TOP_LEVEL)
   return()
 endif()
-set(CMAKE_INSTALL_DOCDIR share/doc/tal-vero-connect CACHE PATH "Where the manual goes")
 include(GNUInstallDirs)
 include(TalVeroRelease)
 
