@@ -153,7 +153,7 @@ void FileDialogsTest::importAsksForAnyFile()
     QCOMPARE(asked.title, QString("Open File"));
     QCOMPARE(asked.filters, QStringList{"All Files (*)"}); // Qt's own word for no filter
     QCOMPARE(asked.mode, QFileDialog::AcceptOpen);
-    QTEST(log.texts().count("got here"), "logLines");
+    QTEST(int(log.texts().count("got here")), "logLines");
     QCOMPARE(bench.settingCommands(), QByteArrayList());
     QFile file("present.xml");
     QVERIFY(file.open(QIODevice::ReadOnly));

@@ -195,7 +195,7 @@ void TestSounderFaults::burstSendsLinesTogether()
     ModelBench sounder(sounding("burst", 1));
     int most = 0;
     for (int i = 0; i < 3000; ++i) {
-        most = std::max(most, sounder.listen(1).count("\r\n"));
+        most = std::max(most, int(sounder.listen(1).count("\r\n")));
     }
     QVERIFY2(most >= 2, "no two soundings came together");
 }
