@@ -36,6 +36,9 @@ constexpr bool coversOneColumnTwice = true;
 /// By how many of the 255 steps of a colour a painter may round otherwise than this one.
 constexpr int painterSteps = 0;
 
+/// Whether a painter shares large fills among threads of its own, which it keeps for half a minute.
+constexpr bool paintsInThreads = false;
+
 #else
 
 /// It is always given.
@@ -49,6 +52,7 @@ constexpr int fontWeight(int inStyleSheet) { return inStyleSheet; }
 
 constexpr bool coversOneColumnTwice = false;
 constexpr int painterSteps = 1;
+constexpr bool paintsInThreads = true;
 
 #endif
 
