@@ -65,15 +65,17 @@ bool findsIt(FaultBench &bench)
 }
 
 const FaultRow restarts[] = {
-    {"between two changes",
+    {"between two changes: connected anew, the window shows what it had stored",
      [](FaultBench &bench) {
          bench.device().setSoundings(true);
          const bool isChanged = connects(bench, "9600") && isConfirmed(bench, 6);
          bench.device().reboot(); // it had not stored that
-         return isChanged && isSounding(bench) && bench.device().settings().pings == 5 &&
-                isSounding(bench);
+         const bool isBack =
+             isSounding(bench) && bench.showsConnected() && bench.device().settings().pings == 5;
+         bench.click("connectToDevice");
+         return isChanged && isBack && connects(bench, "9600") && bench.text("pingEdit") == "5";
      },
-     "Setting Pings Per Second to 6 ... Success", true},
+     "Connected to TAL-VERO", true},
     {"right after a change, and takes the next one",
      [](FaultBench &bench) {
          const bool isReady = connects(bench, "9600");
